@@ -1,0 +1,49 @@
+#include "LetturaNumero.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <string>
+
+namespace combi {
+
+namespace {
+
+bool IsBlank(char ch) { return ch == ' ' || ch == '\t' || ch == '\r' || ch == '\n'; }
+bool IsDigit(char ch) { return ch >= '0' && ch <= '9'; }
+
+template <typename T>
+T Arrotonda(double valore) {
+    if (std::isnan(valore)) return 0;
+    const double r = std::nearbyint(valore);  // default rounding mode: half to even
+    if (r <= static_cast<double>(std::numeric_limits<T>::min())) return std::numeric_limits<T>::min();
+    if (r >= static_cast<double>(std::numeric_limits<T>::max())) return std::numeric_limits<T>::max();
+    return static_cast<T>(r);
+}
+
+}  // namespace
+
+double LeggiNumero(std::string_view testo) {
+    size_t i = 0;
+    while (i < testo.size() && IsBlank(testo[i])) ++i;
+    const size_t inizio = i;
+    if (i < testo.size() && (testo[i] == '-' || testo[i] == '+')) ++i;
+    const size_t cifre = i;
+    while (i < testo.size() && IsDigit(testo[i])) ++i;
+    bool haCifre = i > cifre;
+    if (i < testo.size() && testo[i] == '.') {
+        const size_t dopoPunto = i + 1;
+        size_t j = dopoPunto;
+        while (j < testo.size() && IsDigit(testo[j])) ++j;
+        if (j > dopoPunto || haCifre) i = j;
+        haCifre = haCifre || j > dopoPunto;
+    }
+    if (!haCifre) return 0.0;
+    const std::string numero(testo.substr(inizio, i - inizio));
+    return std::strtod(numero.c_str(), nullptr);
+}
+
+int32_t ArrotondaInt32(double valore) { return Arrotonda<int32_t>(valore); }
+int16_t ArrotondaInt16(double valore) { return Arrotonda<int16_t>(valore); }
+
+}  // namespace combi

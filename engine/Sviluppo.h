@@ -1,0 +1,82 @@
+#pragma once
+// The development of a system: every integral column of the picked numbers is
+// judged against the conditions and the passing ones are kept, subject to the
+// "Riduzione N-K" rule against the previously kept column.
+//
+// Two paths give the same result: SviluppaSistemaRiferimento, the plain
+// single-threaded loop, and SviluppaSistema, the multi-core one. Both report
+// progress, read the stop request and let the host pump messages once every
+// 10000 tested columns, so a stop ends the run at the next multiple of 10000.
+
+#include <cstdint>
+#include <vector>
+
+#include "Colonna.h"
+#include "Condizione.h"
+
+namespace combi {
+
+inline constexpr uint64_t kPassoProgresso = 10000;
+
+// What the engine needs from whoever runs it: a place to show the counters
+// ("Sviluppate :", "Condizionate :"), the stop flag and the message pump.
+// Every call is made on the thread that started the development.
+class OsservatoreSviluppo {
+public:
+    virtual ~OsservatoreSviluppo() = default;
+    virtual void Progresso(uint64_t testate, uint64_t tenute) { (void)testate; (void)tenute; }
+    virtual bool RichiestaStop() { return false; }
+    virtual void ElaboraMessaggi() {}
+};
+
+struct ParametriSviluppo {
+    std::vector<int> numeri;        // the picked numbers, ascending, 1..90
+    int classe = 0;                 // numbers per column, 1..20
+    int riduzione = 0;              // K of "Riduzione N-K"; 0 for none
+    TabellaCondizioni condizioni;   // at least one record
+    TabellaQuadri quadri{};
+};
+
+// Worker `indice` of `di` develops the contiguous stretch
+// [T*(indice-1)/di, T*indice/di) of the T integral columns.
+struct Quota {
+    int indice = 1;
+    int di = 1;
+};
+
+struct OpzioniSviluppo {
+    int thread = 0;  // 0: one per hardware thread
+    Quota quota;
+};
+
+struct RisultatoSviluppo {
+    std::vector<Colonna> colonne;   // kept columns in enumeration order
+    uint64_t testate = 0;           // columns tested
+    TabellaCondizioni condizioni;   // counters summed over the tested columns;
+                                    // Valore and flags of the last tested column
+    bool interrotto = false;        // a stop request ended the run early
+};
+
+// The distance R = k - K below which a passing column must stay from the
+// previously kept one; 0 (keep every passing column) when K is 0.
+int DistanzaRiduzione(int classe, int riduzione);
+
+// The first and one-past-last rank of a share of T columns.
+struct Tratto {
+    uint64_t inizio = 0;
+    uint64_t fine = 0;
+};
+Tratto TrattoDellaQuota(uint64_t totale, const Quota& quota);
+
+// Throws Errore with an Italian description when the parameters cannot be
+// developed (class outside 1..20, numbers not ascending in 1..90, class above
+// the count of picked numbers, a bad share).
+void ControllaParametri(const ParametriSviluppo& p, const Quota& quota);
+
+RisultatoSviluppo SviluppaSistemaRiferimento(const ParametriSviluppo& p, OsservatoreSviluppo& oss,
+                                             const Quota& quota = {});
+
+RisultatoSviluppo SviluppaSistema(const ParametriSviluppo& p, OsservatoreSviluppo& oss,
+                                  const OpzioniSviluppo& opzioni = {});
+
+}  // namespace combi

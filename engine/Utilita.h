@@ -1,0 +1,129 @@
+#pragma once
+// Small stateless helpers used across the system: paths and the temporary
+// system file, file deletion, and the exact text formats shown to the user
+// (counters, elapsed time, vertical grid texts, number lists, column texts).
+//
+// Paths: the program was born on Windows, and stored names may still carry
+// "\" separators, so both "\" and "/" split a path. We run on Linux, so a
+// separator that has to be appended is always "/".
+//
+// Lengths of user texts (vertical pieces, alignment) count UTF-8 characters,
+// not bytes, so an accented letter is never cut in half.
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Colonna.h"
+
+namespace combi {
+
+// ---- Folders and file names ----
+
+// Trimmed path with a trailing separator; an empty (or blank) path stays empty.
+std::string AggiungiBarra(std::string_view percorso);
+
+// The temporary folder with a trailing separator; "/tmp/" when the system one
+// is missing or not a folder.
+std::string CartellaTemp();
+
+// Path of the system file written for external development workers.
+std::string FileSistemaTemp();
+
+// True when `percorso` is an existing folder (symbolic links followed).
+bool IsCartella(const std::string& percorso);
+
+// True when `percorso` exists, as a file or as a folder.
+bool FileEsiste(const std::string& percorso);
+
+// Text after the last separator; the whole path when there is none.
+std::string NomeFile(std::string_view percorso);
+
+// Trimmed path up to and including its last separator; empty when there is none.
+std::string CartellaDelFile(std::string_view percorso);
+
+// Trimmed text after the last "." of the file name; empty when the name has no ".".
+std::string EstensioneFile(std::string_view percorso);
+
+// NomeFile without the part from its last "." on (NomeFile itself if it has no ".").
+std::string NomeSenzaEstensione(std::string_view percorso);
+
+// Same folder and extension with `numero` appended to the base name:
+// ("/x/Colonne.col", 3) -> "/x/Colonne3.col"; without an extension no "." is added.
+std::string NomeFileNumerato(std::string_view percorso, int numero);
+
+// Receives a deletion failure: source title, error number, description.
+using SegnalaErrore =
+    std::function<void(const std::string& titolo, int numero, const std::string& descrizione)>;
+
+// Deletes a file, or every file of the folder matching a name pattern when the
+// name holds "*" ("*" any run, "?" one character; folders never match). A
+// read-only file is made writable first. Nothing to delete -> true, silently.
+// Any other failure -> false, reported once to `segnala` (if given) with the
+// title "ModFunzGeneriche.KillFile".
+bool KillFile(const std::string& percorso, const SegnalaErrore& segnala = {});
+
+// ---- Formatting ----
+
+// Value rounded half away from zero, thousands grouped by `separatore`, no
+// decimals; "0" for anything that rounds to zero. Throws Errore on NaN/inf.
+std::string FormatNumero(double valore, char separatore);
+
+// As above with the thousands separator of the global C++ locale.
+std::string FormatNumero(double valore);
+
+// "hh:mm:ss", each part at least two digits, hours unbounded (360000 -> "100:00:00").
+std::string TempoTrascorso(int32_t secondi);
+
+// `testo` cut into pieces of `lunghezza` characters joined by CR LF (none after
+// the last piece). Throws Errore when `lunghezza` < 1.
+std::string TestoVerticale(std::string_view testo, int lunghezza);
+
+// Indices (limiteInferiore + i) of the true elements, each followed by
+// `separatore`, the final one removed; "00" format when `dueCifre`.
+std::string ElencoIndici(const std::vector<bool>& valori, int limiteInferiore,
+                         std::string_view separatore, bool dueCifre);
+
+// As above for 16-bit flags, where any non-zero element (usually -1) is true.
+std::string ElencoIndici(std::span<const int16_t> valori, int limiteInferiore,
+                         std::string_view separatore, bool dueCifre);
+
+// Fixed-size flag tables as the engine stores them: indices 0..N-1.
+template <std::size_t N>
+std::string ElencoIndici(const std::array<int16_t, N>& valori, std::string_view separatore,
+                         bool dueCifre) {
+    return ElencoIndici(std::span<const int16_t>(valori), 0, separatore, dueCifre);
+}
+
+// The odd (or even) numbers da..a, joined by `separatore`.
+std::string ElencoPariDispari(bool dispari, int da, int a, std::string_view separatore);
+
+// One "00" number every three characters (column 1, 4, 7, ...), trailing blanks
+// trimmed. numeri[0] is position 1. Numbers <= 0 take no slot unless `mostraZeri`.
+std::string TestoColonna(std::span<const int16_t> numeri, bool mostraZeri);
+
+// The same for a column record: all 20 positions, 0 beyond the class.
+std::string TestoColonna(const Colonna& colonna, bool mostraZeri);
+
+// The trimmed text aligned inside `riempimento` (right or left), keeping the
+// padding's length; the padding alone for a blank text, the trimmed text
+// alone when it does not fit.
+std::string Allinea(std::string_view testo, std::string_view riempimento, bool destra);
+
+// Integer part of conta * 100 / totale, at most 100; 0 for a total of 0 or a
+// result that is not a finite 16-bit value.
+int16_t Percentuale(double conta, double totale);
+
+// A decimal typed with "." thousands and "," decimals ("1.234,5" -> 1234.5);
+// 0 when the text does not start with a number.
+double ValoreDecimale(std::string_view testo);
+
+// True when `numero` is odd (negative numbers too).
+bool Dispari(int numero);
+
+}  // namespace combi

@@ -1,0 +1,140 @@
+#include <gtest/gtest.h>
+
+#include "DecodificaCondizioni.h"
+#include "LetturaNumero.h"
+
+namespace combi {
+namespace {
+
+TestiCondizione Testi(const std::string& nome, const std::string& parametri, const std::string& punti,
+                      const std::string& recupero = "", const std::string& quadro = "") {
+    return {"", nome, parametri, punti, recupero, quadro};
+}
+
+TEST(LetturaNumero, LeadingNumberRoundsHalvesToEven) {
+    struct Caso { const char* testo; double valore; int32_t intero; };
+    const Caso casi[] = {
+        {"12", 12, 12},     {"  7abc", 7, 7},  {"", 0, 0},         {"abc", 0, 0},
+        {"2,5", 2, 2},      {"2.5", 2.5, 2},   {"3.5", 3.5, 4},    {"-1", -1, -1},
+        {"-0", 0, 0},       {"\r\n45", 45, 45}, {"-", 0, 0},       {".5", 0.5, 0},
+        {"99999999999", 99999999999.0, INT32_MAX},
+    };
+    for (const Caso& c : casi) {
+        EXPECT_DOUBLE_EQ(LeggiNumero(c.testo), c.valore) << c.testo;
+        EXPECT_EQ(LeggiInt32(c.testo), c.intero) << c.testo;
+    }
+}
+
+TEST(Decodifica, ListsSetTheIndexedElements) {
+    struct Caso { const char* testo; std::vector<int> attesi; };
+    const Caso casi[] = {
+        {"0-1-2", {0, 1, 2}}, {"3", {3}}, {"", {}}, {"1-", {0, 1}},
+        {"01-05\r\n-10", {1, 5, 10}}, {"11-12", {}},  // beyond the points: ignored
+    };
+    for (const Caso& c : casi) {
+        std::array<int16_t, 11> punti{};
+        DecodificaElenco(c.testo, punti);
+        std::array<int16_t, 11> attesi{};
+        for (int i : c.attesi) attesi[i] = -1;
+        EXPECT_EQ(punti, attesi) << c.testo;
+    }
+}
+
+TEST(Decodifica, RangesNeedExactlyTwoPieces) {
+    struct Caso { const char* testo; int32_t min, max; };
+    const Caso casi[] = {{"10-25", 10, 25}, {"10", 0, 0}, {"10-25-30", 0, 0}, {"-5", 0, 5},
+                         {"3-", 3, 0},      {"-", 0, 0}};
+    for (const Caso& c : casi) {
+        int32_t min = 99, max = 99;
+        DecodificaIntervallo(c.testo, min, max);
+        EXPECT_EQ(min, c.min) << c.testo;
+        EXPECT_EQ(max, c.max) << c.testo;
+    }
+}
+
+TEST(Decodifica, ParityTokensAreLinesOfExactLetters) {
+    std::array<int16_t, 91> e{};
+    EXPECT_EQ(DecodificaPariDispari("P\r\nD\r\nD", e), 3);
+    EXPECT_EQ(e[0], 0);
+    EXPECT_EQ(e[1], 1);
+    EXPECT_EQ(e[2], 1);
+    EXPECT_EQ(e[3], -1);
+    EXPECT_EQ(CodificaPariDispari(e), "PDD");
+    std::array<int16_t, 91> f{};
+    EXPECT_EQ(DecodificaPariDispari("PDD", f), 1);
+    EXPECT_EQ(f[0], 0);
+    EXPECT_EQ(f[1], -1);
+}
+
+TEST(Decodifica, GridColumnsBecomeRecordsInGridOrder) {
+    TestiGriglia g;
+    g.colonne = {
+        Testi("Punti Col.", "01-05-12-33-\r\n45", "2-3", "1", "1"),
+        Testi("Pari-Dispari", "pari", "0"),
+        Testi("Peso", "Caselle :\r\n1-3", "10-25", "-", " "),
+        Testi("Resto", "Resto a : 3", "0-2"),
+        Testi("Vortice", "Inverso", "1"),
+        Testi("Simmetrie", " Dirette ", "1"),
+        Testi("Posizioni", "Casella :\r\n4", "5-40"),
+        Testi("Sequenze", "P\r\nD\r\nD", "1"),
+        Testi("Sconosciuta", "x", "1"),
+        Testi("LinkClose", "L", "2"),
+        Testi("", "", ""),
+        Testi("Ponte", "", "1"),  // after an empty name: never read
+    };
+    g.quadri = {"1,1,-1", "-1,-1,-0", "7"};
+    const SistemaDecodificato s = LeggiCondizioni(g);
+    ASSERT_EQ(s.condizioni.size(), 10u);
+    const auto& pc = s.condizioni[0];
+    EXPECT_EQ(pc.Tipo, kPuntiColonna);
+    for (int n : {1, 5, 12, 33, 45}) EXPECT_EQ(pc.Numeri[n], -1) << n;
+    EXPECT_EQ(pc.Punti[2] & pc.Punti[3], -1);
+    EXPECT_EQ(pc.Recupero[1], -1);
+    EXPECT_EQ(pc.QuadroRec, 1);
+    EXPECT_EQ(s.condizioni[1].Numeri, (std::array<int16_t, 91>{}));  // "pari" is not "Pari"
+    const auto& peso = s.condizioni[2];
+    EXPECT_EQ(peso.Numeri[1] & peso.Numeri[3], -1);
+    EXPECT_EQ(peso.Numeri[2], 0);
+    EXPECT_EQ(peso.MinPunti, 10);
+    EXPECT_EQ(peso.MaxPunti, 25);
+    EXPECT_EQ(peso.QuadroRec, 0);
+    EXPECT_EQ(s.condizioni[3].Parametro, 3);
+    EXPECT_EQ(s.condizioni[4].Parametro, 2);
+    EXPECT_EQ(s.condizioni[5].Parametro, 1);  // trimmed
+    EXPECT_EQ(s.condizioni[6].Parametro, 4);
+    EXPECT_EQ(s.condizioni[7].Parametro, 3);
+    EXPECT_EQ(s.condizioni[8].Tipo, kNessuna);
+    EXPECT_EQ(s.condizioni[9].Numeri[2], -1);
+    EXPECT_EQ(s.quadri[1], (QuadroRecupero{-1, 1, 1}));
+    EXPECT_EQ(s.quadri[2], (QuadroRecupero{0, -1, -1}));
+    EXPECT_EQ(s.quadri[3], (QuadroRecupero{0, 7, 0}));  // short line: missing fields 0
+}
+
+TEST(Decodifica, EmptyGridGivesOneRecordThatAlwaysPasses) {
+    TestiGriglia g;
+    g.colonne.assign(200, TestiCondizione{});
+    g.colonne[3] = Testi("Ponte", "", "1");
+    const SistemaDecodificato s = LeggiCondizioni(g);
+    ASSERT_EQ(s.condizioni.size(), 1u);
+    EXPECT_EQ(s.condizioni[0].Tipo, kNessuna);
+}
+
+TEST(Decodifica, TextsBeyondTheLimitsStayInsideTheArrays) {
+    TestiGriglia g;
+    g.colonne = {Testi("Sequenze", std::string(300, 'P'), "999-5", "", "5000"),
+                 Testi("LinkClose", "", "95-3")};
+    for (int i = 0; i < 30; ++i) g.quadri.push_back("1,2,-1");
+    const SistemaDecodificato s = LeggiCondizioni(g);
+    EXPECT_EQ(s.condizioni[0].Parametro, 1);  // one line of 300 letters: one piece
+    EXPECT_EQ(s.condizioni[0].Punti[5], -1);
+    EXPECT_EQ(s.condizioni[0].QuadroRec, 5000);
+    EXPECT_EQ(s.condizioni[1].Numeri[3], -1);
+    std::string lunga;
+    for (int i = 0; i < 120; ++i) lunga += (i ? "\r\nD" : "D");
+    std::array<int16_t, 91> e{};
+    EXPECT_EQ(DecodificaPariDispari(lunga, e), 90);
+    EXPECT_EQ(e[90], -1);
+}
+
+}  // namespace
+}  // namespace combi

@@ -1,0 +1,141 @@
+#include <gtest/gtest.h>
+
+#include "Conteggi.h"
+#include "Errore.h"
+#include "VerificaColonna.h"
+#include "DecodificaCondizioni.h"
+#include "SistemiCasuali.h"
+#include "Sviluppo.h"
+
+namespace combi {
+namespace {
+
+// Stops once the reported count of tested columns reaches a threshold, and
+// records every progress report.
+class Osservatore : public OsservatoreSviluppo {
+public:
+    explicit Osservatore(uint64_t fermaA = UINT64_MAX) : fermaA_(fermaA) {}
+    void Progresso(uint64_t testate, uint64_t tenute) override { rapporti.push_back({testate, tenute}); }
+    bool RichiestaStop() override { return !rapporti.empty() && rapporti.back().first >= fermaA_; }
+    void ElaboraMessaggi() override { ++pompe; }
+    std::vector<std::pair<uint64_t, uint64_t>> rapporti;
+    int pompe = 0;
+
+private:
+    uint64_t fermaA_;
+};
+
+void ExpectStessoRisultato(const RisultatoSviluppo& a, const RisultatoSviluppo& b, const std::string& caso) {
+    EXPECT_EQ(a.testate, b.testate) << caso;
+    EXPECT_EQ(a.interrotto, b.interrotto) << caso;
+    ASSERT_EQ(a.colonne.size(), b.colonne.size()) << caso;
+    EXPECT_TRUE(a.colonne == b.colonne) << caso;
+    ASSERT_EQ(a.condizioni.size(), b.condizioni.size()) << caso;
+    for (size_t i = 0; i < a.condizioni.size(); ++i)
+        EXPECT_EQ(a.condizioni[i], b.condizioni[i]) << caso << " condition " << i;
+}
+
+ParametriSviluppo Sistema(int n, int k, std::vector<TestiCondizione> colonne = {}, int riduzione = 0) {
+    ParametriSviluppo p;
+    for (int i = 1; i <= n; ++i) p.numeri.push_back(i);
+    p.classe = k;
+    p.riduzione = riduzione;
+    TestiGriglia g;
+    g.colonne = std::move(colonne);
+    const SistemaDecodificato s = LeggiCondizioni(g);
+    p.condizioni = s.condizioni;
+    p.quadri = s.quadri;
+    return p;
+}
+
+TEST(Sviluppo, FastPathEqualsReferenceOnRandomSystems) {
+    test::GeneratoreSistemi gen(20261123);
+    for (int caso = 0; caso < 300; ++caso) {
+        const ParametriSviluppo p = gen.Sistema();
+        Osservatore o1, o2;
+        const RisultatoSviluppo rif = SviluppaSistemaRiferimento(p, o1);
+        const RisultatoSviluppo veloce = SviluppaSistema(p, o2, {.thread = 1 + caso % 3, .quota = {}});
+        ExpectStessoRisultato(rif, veloce, "case " + std::to_string(caso));
+        EXPECT_EQ(o1.rapporti, o2.rapporti) << caso;
+        if (HasFailure()) return;
+    }
+}
+
+TEST(Sviluppo, LargerRandomSystemsAcrossSeveralBlocks) {
+    test::GeneratoreSistemi gen(7);
+    for (int caso = 0; caso < 12; ++caso) {
+        ParametriSviluppo p = gen.Sistema(22, 6);
+        while (Combinazioni(int(p.numeri.size()), p.classe) < 30000) p = gen.Sistema(22, 6);
+        Osservatore o1, o2;
+        ExpectStessoRisultato(SviluppaSistemaRiferimento(p, o1), SviluppaSistema(p, o2, {.thread = 3, .quota = {}}),
+                              "case " + std::to_string(caso));
+        EXPECT_EQ(o1.rapporti, o2.rapporti);
+    }
+}
+
+TEST(Sviluppo, StopIsHonouredAtTheNextMultipleOfTenThousand) {
+    const ParametriSviluppo p = Sistema(20, 6, {{"", "Consecutivi", "", "0-1", "", ""}});  // 38760 columns
+    for (int thread : {1, 2, 4}) {
+        Osservatore rif(25000), veloce(25000);
+        const RisultatoSviluppo a = SviluppaSistemaRiferimento(p, rif);
+        const RisultatoSviluppo b = SviluppaSistema(p, veloce, {.thread = thread, .quota = {}});
+        EXPECT_EQ(a.testate, 30000u);
+        EXPECT_TRUE(a.interrotto);
+        ExpectStessoRisultato(a, b, "threads " + std::to_string(thread));
+        EXPECT_EQ(veloce.pompe, 2);  // after 10000 and 20000, not after the stop
+    }
+}
+
+TEST(Sviluppo, ReductionDropsColumnsTooCloseToThePreviousKeptOne) {
+    // Class 6, K = 1: R = 5. The first column 1..6 is kept; 1 2 3 4 5 7 shares 5: dropped.
+    const ParametriSviluppo p = Sistema(8, 6, {}, 1);
+    Osservatore o;
+    const RisultatoSviluppo r = SviluppaSistema(p, o);
+    ASSERT_GE(r.colonne.size(), 2u);
+    EXPECT_EQ(r.colonne[0][6], 6);
+    for (size_t i = 1; i < r.colonne.size(); ++i)
+        EXPECT_LT(ContaComuni(6, r.colonne[i], r.colonne[i - 1]), 5);
+    EXPECT_EQ(r.testate, 28u);
+}
+
+TEST(Sviluppo, EdgeSizesAndBadParameters) {
+    Osservatore o;
+    const RisultatoSviluppo uno = SviluppaSistema(Sistema(5, 5), o);
+    EXPECT_EQ(uno.testate, 1u);
+    EXPECT_EQ(uno.colonne.size(), 1u);  // no conditions: every column kept
+    EXPECT_EQ(o.rapporti.back(), (std::pair<uint64_t, uint64_t>{1, 1}));
+    EXPECT_THROW(SviluppaSistema(Sistema(5, 6), o), Errore);
+    EXPECT_THROW(SviluppaSistema(Sistema(30, 21), o), Errore);
+    ParametriSviluppo disordinati = Sistema(6, 3);
+    std::swap(disordinati.numeri[0], disordinati.numeri[1]);
+    EXPECT_THROW(SviluppaSistemaRiferimento(disordinati, o), Errore);
+    EXPECT_THROW(SviluppaSistema(Sistema(6, 3), o, {.thread = 0, .quota = {4, 3}}), Errore);
+}
+
+TEST(Sviluppo, SharesConcatenateToTheWholeRun) {
+    test::GeneratoreSistemi gen(99);
+    for (int caso = 0; caso < 20; ++caso) {
+        ParametriSviluppo p = gen.Sistema(16, 6);
+        p.riduzione = 0;
+        Osservatore o;
+        const RisultatoSviluppo intero = SviluppaSistema(p, o);
+        for (int w : {1, 3, 7}) {
+            std::vector<Colonna> unite;
+            std::vector<int64_t> superate(p.condizioni.size());
+            uint64_t testate = 0;
+            for (int i = 1; i <= w; ++i) {
+                const RisultatoSviluppo parte = SviluppaSistema(p, o, {.thread = 2, .quota = {i, w}});
+                unite.insert(unite.end(), parte.colonne.begin(), parte.colonne.end());
+                testate += parte.testate;
+                for (size_t c = 0; c < superate.size(); ++c) superate[c] += parte.condizioni[c].ContaSuperate;
+            }
+            EXPECT_EQ(testate, intero.testate);
+            EXPECT_TRUE(unite == intero.colonne) << caso << " W=" << w;
+            for (size_t c = 0; c < superate.size(); ++c)
+                EXPECT_EQ(superate[c], intero.condizioni[c].ContaSuperate);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace combi

@@ -1,0 +1,223 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <locale>
+
+#include <unistd.h>
+
+#include "Errore.h"
+#include "Utilita.h"
+
+namespace combi {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Utilita, FileNameParts) {
+    struct Caso { const char* percorso; const char* nome; const char* cartella; const char* estensione;
+                  const char* base; };
+    const Caso casi[] = {
+        {"/x/y/Colonne.col", "Colonne.col", "/x/y/", "col", "Colonne"},
+        {"C:\\Sistemi\\A.b.sic", "A.b.sic", "C:\\Sistemi\\", "sic", "A.b"},
+        {"Colonne", "Colonne", "", "", "Colonne"},            // bare name: itself
+        {"/x.y/Colonne", "Colonne", "/x.y/", "", "Colonne"},  // dot in the folder only
+        {"/x/y/", "", "/x/y/", "", ""},
+        {"  /x/a.col  ", "a.col  ", "/x/", "col", "a"},       // folder and extension trim
+    };
+    for (const Caso& c : casi) {
+        EXPECT_EQ(NomeFile(c.percorso), c.nome) << c.percorso;
+        EXPECT_EQ(CartellaDelFile(c.percorso), c.cartella) << c.percorso;
+        EXPECT_EQ(EstensioneFile(c.percorso), c.estensione) << c.percorso;
+        EXPECT_EQ(NomeSenzaEstensione(c.percorso), c.base) << c.percorso;
+    }
+}
+
+TEST(Utilita, NumberedNamesAndTrailingSeparators) {
+    EXPECT_EQ(NomeFileNumerato("/x/y/Colonne.col", 3), "/x/y/Colonne3.col");
+    EXPECT_EQ(NomeFileNumerato("/tmp/SistCond.sic", 12), "/tmp/SistCond12.sic");
+    EXPECT_EQ(NomeFileNumerato("Colonne", 3), "Colonne3");
+    EXPECT_EQ(NomeFileNumerato("/x.y/Colonne", 3), "/x.y/Colonne3");
+    const std::pair<const char*, const char*> barre[] = {
+        {"/x/y", "/x/y/"}, {" /x/y/ ", "/x/y/"}, {"C:\\a\\", "C:\\a\\"}, {"   ", ""}, {"", ""}};
+    for (const auto& [percorso, atteso] : barre) EXPECT_EQ(AggiungiBarra(percorso), atteso) << percorso;
+}
+
+TEST(Utilita, TemporaryFolderFallsBackWhenMissing) {
+    const char* vecchio = std::getenv("TMPDIR");
+    const std::string salvato = vecchio ? vecchio : "";
+    const fs::path propria = fs::temp_directory_path() / "utilita_tmpdir_test";
+    ::setenv("TMPDIR", "/cartella/che/non/esiste", 1);
+    EXPECT_EQ(CartellaTemp(), "/tmp/");
+    fs::create_directories(propria);
+    ::setenv("TMPDIR", propria.c_str(), 1);
+    EXPECT_EQ(CartellaTemp(), propria.string() + "/");
+    EXPECT_EQ(FileSistemaTemp(), propria.string() + "/SistCond.sic");
+    if (vecchio) ::setenv("TMPDIR", salvato.c_str(), 1); else ::unsetenv("TMPDIR");
+    fs::remove(propria);
+}
+
+class KillFileTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        std::string modello = (fs::temp_directory_path() / "utilitaXXXXXX").string();
+        ASSERT_NE(::mkdtemp(modello.data()), nullptr);
+        cartella_ = modello + "/";
+    }
+    void TearDown() override {  // folders a test closed are reopened first
+        std::error_code ec;
+        for (const auto& voce : fs::directory_iterator(cartella_, ec))
+            if (voce.is_directory(ec)) fs::permissions(voce.path(), fs::perms::owner_all, fs::perm_options::add, ec);
+        fs::remove_all(cartella_, ec);
+    }
+    std::string Crea(const std::string& nome) {
+        std::ofstream(cartella_ + nome) << "x";
+        return cartella_ + nome;
+    }
+    bool Kill(const std::string& nome) {
+        return KillFile(cartella_ + nome, [this](const std::string& t, int n, const std::string& d) {
+            segnalazioni_.push_back(t + "|" + std::to_string(n) + "|" + d);
+        });
+    }
+    std::string cartella_;
+    std::vector<std::string> segnalazioni_;
+};
+
+TEST_F(KillFileTest, DeletesFilesAndPatternsQuietly) {
+    const std::string solaLettura = Crea("protetto.col");
+    fs::permissions(solaLettura, fs::perms::owner_read, fs::perm_options::replace);
+    EXPECT_TRUE(Kill("protetto.col"));
+    EXPECT_FALSE(FileEsiste(solaLettura));
+    EXPECT_TRUE(Kill("mancante.col"));
+    EXPECT_TRUE(Kill("non/esiste/*.col"));
+    for (const char* n : {"a.col", "bb.col", "SistCond1.sic", "SistCond12.sic", "SistCond.sic", "nota.txt"})
+        Crea(n);
+    fs::create_directory(cartella_ + "sotto.col");
+    EXPECT_TRUE(Kill("*.col"));
+    EXPECT_TRUE(Kill("SistCond?.sic"));  // "?" alone is no pattern: a literal, missing name
+    EXPECT_TRUE(Kill("SistCond?*.sic"));
+    EXPECT_TRUE(Kill("*.nessuno"));
+    for (const char* n : {"a.col", "bb.col", "SistCond1.sic", "SistCond12.sic"})
+        EXPECT_FALSE(FileEsiste(cartella_ + n)) << n;
+    for (const char* n : {"SistCond.sic", "nota.txt", "sotto.col"}) EXPECT_TRUE(FileEsiste(cartella_ + n)) << n;
+    EXPECT_TRUE(IsCartella(cartella_ + "sotto.col"));
+    EXPECT_FALSE(IsCartella(cartella_ + "nota.txt"));
+    EXPECT_TRUE(segnalazioni_.empty());
+}
+
+TEST_F(KillFileTest, FailureIsReportedOnceAndAnswersFalse) {
+    fs::create_directory(cartella_ + "cartella");
+    fs::create_directory(cartella_ + "chiusa");
+    Crea("chiusa/dentro.col");
+    fs::permissions(cartella_ + "chiusa", fs::perms::owner_read | fs::perms::owner_exec,
+                    fs::perm_options::replace);
+    std::vector<std::string> falliscono = {"cartella", std::string(300, 'n') + ".col"};
+    if (::geteuid() != 0) falliscono.push_back("chiusa/dentro.col");  // root may delete anyway
+    for (const std::string& nome : falliscono) {
+        segnalazioni_.clear();
+        EXPECT_FALSE(Kill(nome)) << nome;
+        ASSERT_EQ(segnalazioni_.size(), 1u) << nome;
+        EXPECT_EQ(segnalazioni_[0].rfind("ModFunzGeneriche.KillFile|75|", 0), 0u) << segnalazioni_[0];
+    }
+    EXPECT_TRUE(IsCartella(cartella_ + "cartella"));  // even an empty folder survives
+    EXPECT_FALSE(KillFile(cartella_ + "cartella"));  // no callback: still false
+}
+
+TEST(Utilita, FormatNumeroGroupsThousands) {
+    struct Caso { double valore; char separatore; const char* atteso; };
+    const Caso casi[] = {
+        {0, ',', "0"}, {1200000, ',', "1,200,000"}, {1200000, '.', "1.200.000"}, {999, '.', "999"},
+        {1000, '.', "1.000"}, {-1234567, ',', "-1,234,567"}, {-999, ',', "-999"}, {2.5, ',', "3"},
+        {-2.5, ',', "-3"}, {0.4, ',', "0"}, {-0.4, ',', "0"}, {123456.49, '.', "123.456"},
+        {1e21, ',', "1,000,000,000,000,000,000,000"}, {622614630, '.', "622.614.630"},
+    };
+    for (const Caso& c : casi) EXPECT_EQ(FormatNumero(c.valore, c.separatore), c.atteso) << c.valore;
+    EXPECT_THROW(FormatNumero(std::numeric_limits<double>::infinity(), ','), Errore);
+
+    struct Punto : std::numpunct<char> { char do_thousands_sep() const override { return '.'; } };
+    EXPECT_EQ(FormatNumero(3500), "3,500");  // classic locale
+    const std::locale vecchio = std::locale::global(std::locale(std::locale::classic(), new Punto));
+    EXPECT_EQ(FormatNumero(3500), "3.500");
+    std::locale::global(vecchio);
+}
+
+TEST(Utilita, TempoTrascorsoIsHoursMinutesSeconds) {
+    const std::pair<int32_t, const char*> casi[] = {
+        {0, "00:00:00"}, {59, "00:00:59"}, {65, "00:01:05"}, {3725, "01:02:05"},
+        {86399, "23:59:59"}, {360000, "100:00:00"}, {-65, "00:-01:-05"}};
+    for (const auto& [secondi, atteso] : casi) EXPECT_EQ(TempoTrascorso(secondi), atteso) << secondi;
+}
+
+TEST(Utilita, TestoVerticaleCutsIntoLines) {
+    struct Caso { const char* testo; int lunghezza; const char* atteso; };
+    const Caso casi[] = {
+        {"Ponte", 1, "P\r\no\r\nn\r\nt\r\ne"}, {"", 1, ""}, {"", 12, ""}, {"A", 12, "A"},
+        {"01-02-03-04-", 12, "01-02-03-04-"},
+        {"01-02-03-04-05-06-07-08-", 12, "01-02-03-04-\r\n05-06-07-08-"},
+        {"01-02-03-04-05", 12, "01-02-03-04-\r\n05"}, {"Più", 1, "P\r\ni\r\nù"},
+    };
+    for (const Caso& c : casi) EXPECT_EQ(TestoVerticale(c.testo, c.lunghezza), c.atteso) << c.testo;
+    EXPECT_THROW(TestoVerticale("abc", 0), Errore);
+}
+
+TEST(Utilita, NumberLists) {
+    const std::vector<bool> flag = {true, false, true, true, false, false, false};
+    EXPECT_EQ(ElencoIndici(flag, 0, "-", false), "0-2-3");
+    EXPECT_EQ(ElencoIndici(flag, 1, "-", true), "01-03-04");
+    EXPECT_EQ(ElencoIndici(flag, 9, ", ", false), "9, 11, 12");
+    EXPECT_EQ(ElencoIndici(std::vector<bool>(5, false), 0, "-", false), "");
+    const std::array<int16_t, 12> punti = {0, -1, 0, 0, 0, 0, 0, 0, 0, 0, -1, 1};
+    EXPECT_EQ(ElencoIndici(punti, "-", true), "01-10-11");
+    EXPECT_EQ(ElencoIndici(std::span<const int16_t>(punti).subspan(10), 10, "-", false), "10-11");
+
+    EXPECT_EQ(ElencoPariDispari(true, 1, 10, "-"), "1-3-5-7-9");
+    EXPECT_EQ(ElencoPariDispari(false, 1, 10, "-"), "2-4-6-8-10");
+    EXPECT_EQ(ElencoPariDispari(true, -3, 0, ","), "-3,-1");
+    EXPECT_EQ(ElencoPariDispari(true, 4, 4, "-"), "");
+    EXPECT_EQ(ElencoPariDispari(false, 5, 1, "-"), "");
+    for (const auto& [n, dispari] : {std::pair{0, false}, {1, true}, {-3, true}, {-4, false}, {89, true}})
+        EXPECT_EQ(Dispari(n), dispari) << n;
+}
+
+TEST(Utilita, TestoColonnaPlacesNumbersEveryThreeCharacters) {
+    struct Caso { std::vector<int16_t> numeri; bool zeri; const char* atteso; };
+    const Caso casi[] = {
+        {{3, 17, 45, 88}, false, "03 17 45 88"}, {{0, 5, 0, 12}, false, "05 12"},
+        {{0, 5, 0, 12}, true, "00 05 00 12"}, {{5, 0, 0}, true, "05 00 00"}, {{0, 0}, false, ""},
+        {{}, true, ""}, {{5, 100}, false, "05 10"},  // a wide number is cut at the end
+    };
+    for (const Caso& c : casi) EXPECT_EQ(TestoColonna(c.numeri, c.zeri), c.atteso) << c.atteso;
+    Colonna colonna;
+    colonna[1] = 7, colonna[2] = 30, colonna[3] = 90;
+    EXPECT_EQ(TestoColonna(colonna, false), "07 30 90");
+    const std::string tutte = TestoColonna(colonna, true);
+    EXPECT_EQ(tutte.size(), 59u);
+    EXPECT_EQ(tutte.substr(0, 12), "07 30 90 00 ");
+    EXPECT_EQ(tutte.substr(54), "00 00");
+}
+
+TEST(Utilita, AllineaKeepsThePaddingLength) {
+    struct Caso { const char* testo; const char* riempimento; bool destra; const char* atteso; };
+    const Caso casi[] = {
+        {"12", "     ", true, "   12"}, {"12", "     ", false, "12   "}, {"  12 ", "abcde", true, "abc12"},
+        {"  12 ", "abcde", false, "12cde"}, {"   ", "abc", true, "abc"}, {"", "abc", false, "abc"},
+        {"12345", "abc", true, "12345"}, {" 123 ", "abc", false, "123"}, {"è", "    ", true, "   è"},
+    };
+    for (const Caso& c : casi) EXPECT_EQ(Allinea(c.testo, c.riempimento, c.destra), c.atteso) << c.testo;
+}
+
+TEST(Utilita, PercentualeAndValoreDecimale) {
+    struct Caso { double conta, totale; int16_t atteso; };
+    const Caso casi[] = {{50, 200, 25}, {1, 3, 33}, {2, 3, 66}, {200, 200, 100}, {300, 200, 100},
+                         {0, 0, 0},    {5, 0, 0},   {-50, 100, -50}, {-1e10, 1, 0}, {1e300, 1e-300, 0}};
+    for (const Caso& c : casi) EXPECT_EQ(Percentuale(c.conta, c.totale), c.atteso) << c.conta << "/" << c.totale;
+
+    const std::pair<const char*, double> testi[] = {
+        {"1.234,5", 1234.5}, {"abc", 0}, {"12", 12}, {"1.234.567", 1234567}, {"0,25", 0.25},
+        {"  -3,5kg", -3.5}, {"1,2,3", 1.2}, {"", 0}};
+    for (const auto& [testo, atteso] : testi) EXPECT_DOUBLE_EQ(ValoreDecimale(testo), atteso) << testo;
+}
+
+}  // namespace
+}  // namespace combi

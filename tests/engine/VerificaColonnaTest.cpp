@@ -1,0 +1,116 @@
+#include <gtest/gtest.h>
+
+#include "DecodificaCondizioni.h"
+#include "VerificaColonna.h"
+
+namespace combi {
+namespace {
+
+Colonna Col(std::initializer_list<int> numeri) {
+    Colonna c;
+    int pos = 1;
+    for (int n : numeri) c[pos++] = uint8_t(n);
+    return c;
+}
+
+SistemaDecodificato Leggi(std::vector<TestiCondizione> colonne, std::vector<std::string> quadri = {}) {
+    TestiGriglia g;
+    g.colonne = std::move(colonne);
+    g.quadri = std::move(quadri);
+    return LeggiCondizioni(g);
+}
+
+TEST(VerificaColonna, PassAndRecoveryThroughAPanel) {
+    auto s = Leggi({{"", "Punti Col.", "01-02-03-04-\r\n05", "2-3", "1", "1"}}, {"1,1,-1"});
+    auto& cond = s.condizioni[0];
+
+    EXPECT_EQ(VerificaColonna(5, Col({1, 7, 9, 11, 13}), s.condizioni, s.quadri), kVero);
+    EXPECT_EQ(cond.Valore, 1);
+    EXPECT_EQ(cond.ContaFallite, 1);
+    EXPECT_EQ(cond.ContaRecuperabili, 1);
+    EXPECT_EQ(cond.Superata, kVero);  // recovered by panel 1
+
+    EXPECT_EQ(VerificaColonna(5, Col({7, 9, 11, 13, 15}), s.condizioni, s.quadri), kFalso);
+    EXPECT_EQ(cond.ContaFallite, 2);
+    EXPECT_EQ(cond.ContaRecuperabili, 1);
+
+    EXPECT_EQ(VerificaColonna(5, Col({1, 2, 7, 9, 11}), s.condizioni, s.quadri), kVero);
+    EXPECT_EQ(cond.ContaSuperate, 1);
+}
+
+TEST(VerificaColonna, PanelRecoversOnlyWithinItsBounds) {
+    // Three Consecutivi conditions that accept nothing and recover every value,
+    // in panel 2 with bounds 1..2: all three recoverable means none recovered.
+    std::vector<TestiCondizione> colonne(3, {"", "Consecutivi", "", "9", "0-1-2-3-4", "2"});
+    auto s = Leggi(colonne, {"-1,-1,-0", "1,2,-1"});
+    EXPECT_EQ(VerificaColonna(5, Col({1, 2, 3, 4, 5}), s.condizioni, s.quadri), kFalso);
+    // Make one of them not recoverable: two recoverable, both recovered.
+    s.condizioni[0].Recupero = {};
+    EXPECT_EQ(VerificaColonna(5, Col({1, 2, 3, 4, 5}), s.condizioni, s.quadri), kFalso);
+    EXPECT_EQ(s.condizioni[1].Superata, kVero);
+    EXPECT_EQ(s.condizioni[2].Superata, kVero);
+    EXPECT_EQ(s.condizioni[0].Superata, kFalso);
+    // An inactive panel or a panel number outside 1..20 recovers nothing.
+    s.quadri[2].Attivo = 0;
+    EXPECT_EQ(VerificaColonna(5, Col({1, 2, 3, 4, 5}), s.condizioni, s.quadri), kFalso);
+    EXPECT_EQ(s.condizioni[1].Superata, kFalso);
+}
+
+TEST(VerificaColonna, LinkGroupCountsPassedMembers) {
+    // Consecutivi (value 0 on 1 3 5 7 9, 4 on 1..5), Ponte, Interruzioni, each accepting 0.
+    auto s = Leggi({{"", "LinkOpen", "", "", "", ""},
+                    {"", "Consecutivi", "", "0", "", ""},
+                    {"", "Ponte", "", "0", "", ""},
+                    {"", "Interruzioni", "", "0", "", ""},
+                    {"", "LinkClose", "", "2", "", ""}});
+    // 1 3 5 7 9: consecutivi 0 (pass), ponte 4 (fail), interruzioni 0 (pass): two pass.
+    EXPECT_EQ(VerificaColonna(5, Col({1, 3, 5, 7, 9}), s.condizioni, s.quadri), kVero);
+    // 1 2 3 4 5: consecutivi 4, ponte 0, interruzioni 4: one passes.
+    EXPECT_EQ(VerificaColonna(5, Col({1, 2, 3, 4, 5}), s.condizioni, s.quadri), kFalso);
+    // 10 20 30 40 50: all three pass: three is not accepted.
+    EXPECT_EQ(VerificaColonna(5, Col({10, 20, 30, 40, 50}), s.condizioni, s.quadri), kFalso);
+}
+
+TEST(VerificaColonna, NestedGroupsSettleInnerFirst) {
+    // LinkOpen, A, LinkOpen, B, C, LinkClose "1", LinkClose "2".
+    // A = Consecutivi accepting 0; B = Ponte accepting 0; C = Interruzioni accepting 0.
+    auto s = Leggi({{"", "LinkOpen", "", "", "", ""},
+                    {"", "Consecutivi", "", "0", "", ""},
+                    {"", "LinkOpen", "", "", "", ""},
+                    {"", "Ponte", "", "0", "", ""},
+                    {"", "Interruzioni", "", "0", "", ""},
+                    {"", "LinkClose", "", "1", "", ""},
+                    {"", "LinkClose", "", "2", "", ""}});
+    // 1 3 5 7 9: A pass, B fail, C pass -> inner one of two: pass; outer A + inner = 2: pass.
+    EXPECT_EQ(VerificaColonna(5, Col({1, 3, 5, 7, 9}), s.condizioni, s.quadri), kVero);
+    // 10 20 30 40 50: A, B, C pass -> inner 2: fail; outer A + 0 = 1: fail.
+    EXPECT_EQ(VerificaColonna(5, Col({10, 20, 30, 40, 50}), s.condizioni, s.quadri), kFalso);
+    // A LinkClose without LinkOpen groups everything from the start.
+    auto t = Leggi({{"", "Consecutivi", "", "0", "", ""},
+                    {"", "Ponte", "", "0", "", ""},
+                    {"", "LinkClose", "", "1", "", ""},
+                    {"", "LinkOpen", "", "", "", ""},
+                    {"", "Interruzioni", "", "0", "", ""}});
+    // 1 3 5 7 9: Consecutivi pass, Ponte fail: 1 accepted; unclosed LinkOpen ignored,
+    // Interruzioni (0) passes on its own.
+    EXPECT_EQ(VerificaColonna(5, Col({1, 3, 5, 7, 9}), t.condizioni, t.quadri), kVero);
+    EXPECT_EQ(VerificaColonna(5, Col({1, 2, 3, 4, 6}), t.condizioni, t.quadri), kFalso);
+}
+
+TEST(VerificaColonna, ValuesOutsideThePointListFail) {
+    // Consecutivi of class 12 on twelve consecutive numbers is 11: beyond 0..10.
+    auto s = Leggi({{"", "Consecutivi", "", "0-1-2-3-4-5-6-7-8-9-10", "0-10", "1"}}, {"1,1,-1"});
+    Colonna c;
+    for (int i = 1; i <= 12; ++i) c[i] = uint8_t(i);
+    EXPECT_EQ(VerificaColonna(12, c, s.condizioni, s.quadri), kFalso);
+    EXPECT_EQ(s.condizioni[0].Valore, 11);
+    EXPECT_EQ(s.condizioni[0].Recuperabile, kFalso);
+}
+
+TEST(VerificaColonna, ContaComuniCountsSharedNumbers) {
+    EXPECT_EQ(ContaComuni(6, Col({1, 2, 3, 4, 5, 6}), Col({2, 4, 6, 8, 10, 12})), 3);
+    EXPECT_EQ(ContaComuni(6, Col({1, 2, 3, 4, 5, 6}), Colonna{}), 0);
+}
+
+}  // namespace
+}  // namespace combi
