@@ -70,7 +70,7 @@ private:
         switch (tipo) {
         case kPuntiColonna:
             for (int n : p.numeri)
-                if (Tra(0, 1)) t[kRigaParametri] += std::to_string(n) + "-";
+                if (Tra(0, 1)) t[kRigaParametri] += (t[kRigaParametri].empty() ? "" : "-") + std::to_string(n);
             break;
         case kPariDispari: t[kRigaParametri] = Tra(0, 1) ? "Pari" : "Dispari"; break;
         case kPeso: t[kRigaParametri] = "Caselle :\r\n" + Elenco(1, k); break;
