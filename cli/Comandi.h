@@ -1,0 +1,20 @@
+#pragma once
+// The subcommands of combifiltro-cli. Each takes the words after its name and
+// writes to the streams it is given, so tests run them in-process.
+// Result: the process exit code (0 success, 1 failed operation, 2 bad usage).
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace combi::cli {
+
+using Parole = std::vector<std::string>;
+
+int ComandoSviluppa(const Parole& parole, std::ostream& out, std::ostream& err);
+int ComandoInfo(const Parole& parole, std::ostream& out, std::ostream& err);
+
+// Runs the whole command line (argv[1..]): dispatch, usage and error report.
+int Esegui(const Parole& parole, std::ostream& out, std::ostream& err);
+
+}  // namespace combi::cli

@@ -1,0 +1,61 @@
+// Dispatch of combifiltro-cli's subcommands, with the usage text and the
+// report of every failure as an Italian message and an exit code.
+
+#include <new>
+#include <ostream>
+
+#include "Argomenti.h"
+#include "Comandi.h"
+#include "Errore.h"
+
+namespace combi::cli {
+
+namespace {
+
+struct Comando {
+    const char* nome;
+    int (*esegui)(const Parole&, std::ostream&, std::ostream&);
+    const char* uso;
+};
+
+const Comando kComandi[] = {
+    {"sviluppa", ComandoSviluppa,
+     "sviluppa SISTEMA.sic --colonne OUT.col [--contatori OUT.sic] [--thread N] [--quota I/W] "
+     "[--riferimento]"},
+    {"info", ComandoInfo, "info FILE.sic|FILE.col"},
+};
+
+void Uso(std::ostream& err) {
+    err << "Uso:\n";
+    for (const Comando& c : kComandi) err << "  combifiltro-cli " << c.uso << "\n";
+}
+
+}  // namespace
+
+int Esegui(const Parole& parole, std::ostream& out, std::ostream& err) {
+    if (parole.empty() || parole[0] == "--help" || parole[0] == "aiuto") {
+        Uso(err);
+        return parole.empty() ? 2 : 0;
+    }
+    for (const Comando& c : kComandi) {
+        if (parole[0] != c.nome) continue;
+        try {
+            return c.esegui(Parole(parole.begin() + 1, parole.end()), out, err);
+        } catch (const ErroreUso& e) {
+            err << "combifiltro-cli " << c.nome << ": " << e.messaggio << "\nUso: combifiltro-cli " << c.uso
+                << "\n";
+            return 2;
+        } catch (const Errore& e) {
+            err << "Errore " << e.numero() << "- " << e.descrizione() << "\n";
+            return 1;
+        } catch (const std::bad_alloc&) {
+            err << "Errore " << kErroreMemoria << "- Memoria insufficiente\n";
+            return 1;
+        }
+    }
+    err << "combifiltro-cli: comando sconosciuto \"" << parole[0] << "\"\n";
+    Uso(err);
+    return 2;
+}
+
+}  // namespace combi::cli

@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "Comandi.h"
+#include "DecodificaCondizioni.h"
+#include "FileBinario.h"
+#include "FileSistema.h"
+
+namespace combi {
+namespace {
+
+namespace fs = std::filesystem;
+
+class CliTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        cartella_ = fs::temp_directory_path() / ("cf_cli_" + std::to_string(::getpid()));
+        fs::create_directories(cartella_);
+    }
+    void TearDown() override { fs::remove_all(cartella_); }
+    std::string P(const std::string& nome) const { return (cartella_ / nome).string(); }
+
+    int Esegui(const cli::Parole& parole) {
+        out_.str(""), err_.str("");
+        return cli::Esegui(parole, out_, err_);
+    }
+
+    // A system with every condition type, a nested link group and two panels.
+    void ScriviSistemaCompleto(const std::string& percorso, int riduzione) {
+        TestiGriglia g;
+        g.colonne = {
+            {"", "Punti Col.", "01-02-03-04-\r\n05-06", "0-1-2", "3", "1"},
+            {"", "Pari-Dispari", "Pari", "2-3-4", "1", "1"},
+            {"", "LinkOpen", "", "", "", ""},
+            {"", "Peso", "Caselle :\r\n1-2", "5-40", "-", ""},
+            {"", "Resto", "Resto a : 3", "0-1", "2", "2"},
+            {"", "LinkOpen", "", "", "", ""},
+            {"", "Ampiezza", "", "10-60", "-", ""},
+            {"", "Vortice", "Diretto", "2-3-4", "", ""},
+            {"", "LinkClose", "", "1-2", "", ""},
+            {"", "Simmetrie", "Inverse", "0-1", "", ""},
+            {"", "LinkClose", "", "2-3", "", ""},
+            {"", "Consecutivi", "", "0-1", "", ""},
+            {"", "Interruzioni", "", "1-2-3-4", "0", "2"},
+            {"", "Baricentro", "", "8-30", "-", ""},
+            {"", "Distanza Minima", "", "1-9", "-", ""},
+            {"", "Distanza Massima", "", "3-20", "-", ""},
+            {"", "Posizioni", "Casella :\r\n2", "2-20", "-", ""},
+            {"", "Ponte", "", "0-1", "", ""},
+            {"", "Sequenze", "D\r\nP", "0-1-2", "", ""},
+            {"", "Paralleli", "Diretti", "1-2", "", ""},
+        };
+        g.quadri = {"1,1,-1", "1,2,-1"};
+        const SistemaDecodificato d = LeggiCondizioni(g);
+        FileSistema s;
+        s.intestazione.classe = 5;
+        s.intestazione.riduzione = int16_t(riduzione);
+        for (int n = 1; n <= 24; ++n) s.intestazione.numeri[n] = -1;
+        s.condizioni = d.condizioni;
+        s.quadri = d.quadri;
+        ScriviFileSistema(percorso, s);
+    }
+
+    fs::path cartella_;
+    std::ostringstream out_, err_;
+};
+
+std::vector<uint8_t> Byte(const std::string& percorso) { return LeggiFileBinario(percorso, 1u << 30); }
+
+TEST_F(CliTest, FastAndReferenceDevelopmentsWriteIdenticalFiles) {
+    for (int riduzione : {0, 2}) {
+        ScriviSistemaCompleto(P("s.sic"), riduzione);
+        ASSERT_EQ(Esegui({"sviluppa", P("s.sic"), "--colonne", P("v.col"), "--contatori", P("v.sic"),
+                          "--thread", "3"}), 0) << err_.str();
+        EXPECT_NE(out_.str().find("Sviluppate : 42"), std::string::npos) << out_.str();
+        EXPECT_NE(out_.str().find("504\n"), std::string::npos) << out_.str();
+        ASSERT_EQ(Esegui({"sviluppa", P("s.sic"), "--colonne", P("r.col"), "--contatori", P("r.sic"),
+                          "--riferimento"}), 0) << err_.str();
+        EXPECT_EQ(Byte(P("v.col")), Byte(P("r.col")));
+        EXPECT_EQ(Byte(P("v.sic")), Byte(P("r.sic")));
+        EXPECT_GT(Byte(P("v.col")).size(), 0u);
+        EXPECT_LT(Byte(P("v.col")).size(), 42504u * 20);
+        const FileSistema contatori = LeggiFileSistema(P("v.sic"));
+        EXPECT_EQ(contatori.condizioni[0].ContaSuperate + contatori.condizioni[0].ContaFallite, 42504);
+    }
+}
+
+TEST_F(CliTest, SharesOfWorkersAddUpToTheWholeDevelopment) {
+    ScriviSistemaCompleto(P("s.sic"), 0);
+    ASSERT_EQ(Esegui({"sviluppa", P("s.sic"), "--colonne", P("tutto.col")}), 0);
+    std::vector<uint8_t> unite;
+    for (int i = 1; i <= 3; ++i) {
+        const std::string col = P("q" + std::to_string(i) + ".col");
+        ASSERT_EQ(Esegui({"sviluppa", P("s.sic"), "--colonne", col, "--quota", std::to_string(i) + "/3"}), 0);
+        const auto b = Byte(col);
+        unite.insert(unite.end(), b.begin(), b.end());
+    }
+    EXPECT_EQ(unite, Byte(P("tutto.col")));
+}
+
+TEST_F(CliTest, BadArgumentsAndHostileFilesGiveAMessageNotACrash) {
+    ScriviSistemaCompleto(P("s.sic"), 0);
+    std::ofstream(P("corto.sic"), std::ios::binary) << std::string(316, 'x');
+    std::ofstream(P("tagliato.sic"), std::ios::binary) << std::string(587 + 200, '\0');
+    std::string classeAlta(587, '\0');
+    classeAlta[7] = 25;
+    std::ofstream(P("classe.sic"), std::ios::binary) << classeAlta;
+    struct Caso { cli::Parole parole; int codice; const char* messaggio; };
+    const Caso casi[] = {
+        {{}, 2, "Uso:"},
+        {{"boh"}, 2, "comando sconosciuto"},
+        {{"sviluppa", P("s.sic")}, 2, "manca --colonne"},
+        {{"sviluppa", P("s.sic"), "--colonne"}, 2, "manca il valore"},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--thread", "0"}, 2, "--thread"},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--quota", "4/3"}, 2, "--quota"},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--quota", "2"}, 2, "I/W"},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--velocissimo"}, 2, "sconosciuta"},
+        {{"sviluppa", P("manca.sic"), "--colonne", P("x.col")}, 1, "Errore 53"},
+        {{"sviluppa", P("corto.sic"), "--colonne", P("x.col")}, 1, "troppo corto"},
+        {{"sviluppa", P("tagliato.sic"), "--colonne", P("x.col")}, 1, "troncato"},
+        {{"sviluppa", P("classe.sic"), "--colonne", P("x.col")}, 1, "classe"},
+        {{"sviluppa", P("s.sic"), "--colonne", P("nessuna/x.col")}, 1, "Impossibile"},
+        {{"info", P("s.txt")}, 2, "estensione"},
+        {{"info"}, 2, "un solo file"},
+    };
+    for (const Caso& c : casi) {
+        EXPECT_EQ(Esegui(c.parole), c.codice) << err_.str();
+        EXPECT_NE(err_.str().find(c.messaggio), std::string::npos) << c.messaggio << " in: " << err_.str();
+    }
+    EXPECT_FALSE(fs::exists(P("x.col")));
+}
+
+TEST_F(CliTest, InfoDescribesSystemsAndColumns) {
+    ScriviSistemaCompleto(P("s.sic"), 2);
+    ASSERT_EQ(Esegui({"info", P("s.sic")}), 0) << err_.str();
+    const std::string s = out_.str();
+    EXPECT_NE(s.find("Classe : 5"), std::string::npos);
+    EXPECT_NE(s.find("Riduzione N-K : 2"), std::string::npos);
+    EXPECT_NE(s.find("Condizioni : 20"), std::string::npos);
+    EXPECT_NE(s.find("Parametri: Resto a : 3;"), std::string::npos);
+    EXPECT_NE(s.find("Quadri di recupero in uso : 1 (1-1) 2 (1-2)"), std::string::npos);
+    ASSERT_EQ(Esegui({"sviluppa", P("s.sic"), "--colonne", P("v.col")}), 0);
+    std::ofstream(P("v.col"), std::ios::binary | std::ios::app) << "abc";
+    ASSERT_EQ(Esegui({"info", P("v.col")}), 0);
+    EXPECT_NE(out_.str().find("3 byte finali"), std::string::npos) << out_.str();
+    EXPECT_NE(out_.str().find("  1: "), std::string::npos);
+}
+
+}  // namespace
+}  // namespace combi
