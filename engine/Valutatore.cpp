@@ -1,5 +1,6 @@
 #include "Valutatore.h"
 
+#include <algorithm>
 #include <bit>
 
 #include "Misure.h"
@@ -21,9 +22,9 @@ struct Maschera128 {
 
 void Imposta(Bitset& b, int i) { b[i >> 6] |= uint64_t{1} << (i & 63); }
 
-int ContaBit(const Bitset& a, const Bitset& b) {
+int ContaBit(const Bitset& a, const Bitset& b, int parole) {
     int n = 0;
-    for (size_t w = 0; w < a.size(); ++w) n += std::popcount(a[w] & b[w]);
+    for (int w = 0; w < parole; ++w) n += std::popcount(a[w] & b[w]);
     return n;
 }
 
@@ -49,13 +50,39 @@ uint32_t BitBassi(int n) { return n <= 0 ? 0u : (n >= 32 ? ~0u : (1u << n) - 1u)
 
 struct Valutatore::Compilata {
     int tipo = 0;
+    bool elenco = false;          // judged on a point list, else on a range
     int indice = 0;
     uint16_t punti = 0, recupero = 0;
     int32_t minPunti = 0, maxPunti = 0, minRecupero = 0, maxRecupero = 0;
     int parametro = 0;
     Maschera128 insieme;          // Punti Col., Pari-Dispari
     const Condizione* origine = nullptr;  // measures that keep the plain loop
+    // Measures that depend on the parities alone, tabulated by the column's
+    // parity bits when the class is small enough for a table.
+    std::vector<int8_t> perParita;
 };
+
+namespace {
+
+bool SoloParita(int tipo) {
+    return tipo == kVortice || tipo == kSimmetrie || tipo == kParalleli || tipo == kInterruzioni ||
+           tipo == kSequenze;
+}
+
+constexpr int kMaxClasseTabulata = 16;
+
+std::vector<int8_t> TabulaPerParita(const Condizione& c, int k) {
+    std::vector<int8_t> tabella(size_t(1) << k);
+    ProfiloColonna pc;
+    pc.k = k;
+    for (uint32_t m = 0; m < tabella.size(); ++m) {
+        for (int i = 1; i <= k; ++i) pc.p[i] = int((m >> (i - 1)) & 1);
+        tabella[m] = int8_t(MisuraCondizione(c, pc));
+    }
+    return tabella;
+}
+
+}  // namespace
 
 struct Valutatore::Quadro {
     Bitset membri{};
@@ -77,7 +104,7 @@ void Valutatore::Contatori::Somma(const Contatori& altri) {
 }
 
 Valutatore::Valutatore(const TabellaCondizioni& tabella, const TabellaQuadri& quadri, int classe)
-    : k_(classe) {
+    : k_(classe), parole_(int(tabella.size() + 63) / 64) {
     for (size_t i = 0; i < tabella.size(); ++i) {
         const Condizione& c = tabella[i];
         if (!GiudicataSuElenco(c.Tipo) && !GiudicataSuIntervallo(c.Tipo)) {
@@ -86,6 +113,7 @@ Valutatore::Valutatore(const TabellaCondizioni& tabella, const TabellaQuadri& qu
         }
         Compilata cc;
         cc.tipo = c.Tipo;
+        cc.elenco = GiudicataSuElenco(c.Tipo);
         cc.indice = int(i);
         cc.punti = MascheraPunti(c.Punti);
         cc.recupero = MascheraPunti(c.Recupero);
@@ -95,7 +123,8 @@ Valutatore::Valutatore(const TabellaCondizioni& tabella, const TabellaQuadri& qu
         for (int n = 1; n <= kMaxNumero; ++n)
             if (c.Numeri[n] != 0) cc.insieme.Imposta(n);
         cc.origine = &c;
-        condizioni_.push_back(cc);
+        if (SoloParita(c.Tipo) && classe <= kMaxClasseTabulata) cc.perParita = TabulaPerParita(c, classe);
+        condizioni_.push_back(std::move(cc));
     }
     for (int p = 1; p <= kNumeroQuadri; ++p) {
         if (quadri[p].Attivo == 0) continue;
@@ -145,14 +174,35 @@ void Valutatore::CompilaGruppi(const TabellaCondizioni& tabella) {
 
 namespace {
 
-Colonna128 Prepara(int k, const Colonna& c) {
-    Colonna128 col;
-    col.pc = ProfilaColonna(k, c);
-    for (int i = 1; i <= col.pc.k; ++i) {
-        col.numeri.Imposta(col.pc.c[i]);
-        col.parita |= uint32_t(col.pc.p[i]) << (i - 1);
+// The same profile as ProfilaColonna, filled in one pass with the masks:
+// this runs once per column of the development.
+void Prepara(int k, const Colonna& c, Colonna128& col) {
+    col.pc.k = k;
+    col.pc.somma = 0;
+    col.numeri = {};
+    col.parita = 0;
+    for (int i = 1; i <= kMaxClasse; ++i) {
+        const int n = c[i];
+        col.pc.c[i] = n;
+        if (i > k) continue;
+        col.pc.p[i] = n & 1;
+        col.pc.somma += n;
+        col.numeri.Imposta(n);
+        col.parita |= uint32_t(n & 1) << (i - 1);
     }
-    return col;
+}
+
+int32_t DistanzaMinima(const ProfiloColonna& pc) {
+    if (pc.k < 2) return 1000;
+    int32_t d = pc.c[2] - pc.c[1];
+    for (int i = 2; i < pc.k; ++i) d = std::min(d, pc.c[i + 1] - pc.c[i]);
+    return d;
+}
+
+int32_t DistanzaMassima(const ProfiloColonna& pc) {
+    int32_t d = 0;
+    for (int i = 1; i < pc.k; ++i) d = std::max(d, pc.c[i + 1] - pc.c[i]);
+    return d;
 }
 
 int32_t Consecutivi(const Colonna128& col) {
@@ -191,6 +241,9 @@ int32_t Misura(const Colonna128& col, int tipo, int parametro, const Maschera128
     case kBaricentro: return MisuraBaricentro(col.pc);
     case kAmpiezza: return MisuraAmpiezza(col.pc);
     case kPosizioni: return MisuraPosizioni(col.pc, parametro);
+    case kDistanzaMinima: return DistanzaMinima(col.pc);
+    case kDistanzaMassima: return DistanzaMassima(col.pc);
+    case kPeso: return MisuraPeso(col.pc, origine.Numeri);
     default: return MisuraCondizione(origine, col.pc);
     }
 }
@@ -198,13 +251,17 @@ int32_t Misura(const Colonna128& col, int tipo, int parametro, const Maschera128
 }  // namespace
 
 bool Valutatore::Giudica(const Colonna& c, Contatori& contatori) const {
-    const Colonna128 col = Prepara(k_, c);
+    // Reused from column to column: clearing a fresh profile would cost more
+    // than the measures of a typical system.
+    thread_local Colonna128 col;
+    Prepara(k_, c, col);
     Bitset superate = sempreSuperate_;
     Bitset recuperabili{};
     for (const Compilata& cc : condizioni_) {
-        const int32_t v = Misura(col, cc.tipo, cc.parametro, cc.insieme, *cc.origine);
+        const int32_t v = cc.perParita.empty() ? Misura(col, cc.tipo, cc.parametro, cc.insieme, *cc.origine)
+                                               : cc.perParita[col.parita];
         bool sup, rec;
-        if (GiudicataSuElenco(cc.tipo)) {
+        if (cc.elenco) {
             sup = InElenco(cc.punti, v);
             rec = InElenco(cc.recupero, v);
         } else {
@@ -219,18 +276,19 @@ bool Valutatore::Giudica(const Colonna& c, Contatori& contatori) const {
         }
     }
     for (const Quadro& q : quadri_) {
-        const int n = ContaBit(recuperabili, q.membri);
+        const int n = ContaBit(recuperabili, q.membri, parole_);
         if (n < q.minimo || n > q.massimo) continue;
-        for (size_t w = 0; w < superate.size(); ++w) superate[w] |= recuperabili[w] & q.membri[w];
+        for (int w = 0; w < parole_; ++w) superate[w] |= recuperabili[w] & q.membri[w];
     }
-    std::array<bool, kMaxCondizioniVeloci> esiti{};
+    // Every group's verdict is written before a containing group reads it.
+    std::array<bool, kMaxCondizioniVeloci> esiti;
     for (size_t g = 0; g < gruppi_.size(); ++g) {
         const Gruppo& gr = gruppi_[g];
-        int n = ContaBit(superate, gr.foglie);
+        int n = ContaBit(superate, gr.foglie, parole_);
         for (int f : gr.figli) n += esiti[f];
         esiti[g] = n <= kMaxNumero && gr.accettati.Contiene(n);
     }
-    for (size_t w = 0; w < superate.size(); ++w)
+    for (int w = 0; w < parole_; ++w)
         if ((superate[w] & foglieFinali_[w]) != foglieFinali_[w]) return false;
     for (int g : gruppiFinali_)
         if (!esiti[g]) return false;

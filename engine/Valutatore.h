@@ -48,6 +48,7 @@ private:
     void CompilaGruppi(const TabellaCondizioni& tabella);
 
     int k_;
+    int parole_;                        // 64-bit words of the bitsets in use
     std::vector<Compilata> condizioni_;
     std::vector<Quadro> quadri_;
     std::vector<Gruppo> gruppi_;        // inner groups before the groups that contain them
