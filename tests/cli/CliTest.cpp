@@ -10,6 +10,7 @@
 #include "DecodificaCondizioni.h"
 #include "FileBinario.h"
 #include "FileSistema.h"
+#include "Sviluppo.h"
 
 namespace combi {
 namespace {
@@ -149,6 +150,26 @@ TEST_F(CliTest, InfoDescribesSystemsAndColumns) {
     ASSERT_EQ(Esegui({"info", P("v.col")}), 0);
     EXPECT_NE(out_.str().find("3 byte finali"), std::string::npos) << out_.str();
     EXPECT_NE(out_.str().find("  1: "), std::string::npos);
+}
+
+}  // namespace
+}  // namespace combi
+
+namespace combi {
+namespace {
+
+// The bundled example is what a new user develops first: it must keep loading
+// and developing as the formats evolve.
+TEST(Esempio, BundledSystemDevelops) {
+    const FileSistema s = LeggiFileSistema(std::string(CF_CARTELLA_SORGENTI) + "/esempi/Esempio.sic");
+    const ParametriSviluppo p = ParametriDalFile(s);
+    EXPECT_EQ(p.classe, 6);
+    EXPECT_EQ(p.numeri.size(), 24u);
+    OsservatoreSviluppo o;
+    const RisultatoSviluppo r = SviluppaSistema(p, o);
+    EXPECT_EQ(r.testate, 134596u);
+    EXPECT_GT(r.colonne.size(), 0u);
+    EXPECT_LT(r.colonne.size(), r.testate);
 }
 
 }  // namespace
