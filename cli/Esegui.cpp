@@ -23,6 +23,8 @@ const Comando kComandi[] = {
      "sviluppa SISTEMA.sic --colonne OUT.col [--contatori OUT.sic] [--thread N] [--quota I/W] "
      "[--riferimento]"},
     {"info", ComandoInfo, "info FILE.sic|FILE.col"},
+    {"riduci", ComandoRiduci, "riduci COLONNE.col --punti P --colonne OUT.col [--riferimento]"},
+    {"spoglio", ComandoSpoglio, "spoglio COLONNE.col --estrazione 5,12,90 [--minimo P] [--classe K]"},
 };
 
 void Uso(std::ostream& err) {

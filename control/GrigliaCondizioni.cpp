@@ -29,6 +29,7 @@ GrigliaCondizioni::GrigliaCondizioni(QWidget* genitore) : QTableWidget(genitore)
     horizontalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setMinimumSectionSize(1);  // the width limits are ours
     connect(this, &QTableWidget::currentCellChanged, this, [this] { Evidenzia(); });
     LayOut();
 }

@@ -1,0 +1,81 @@
+// combifiltro-cli riduci: reduces a columns file so that every dropped column
+// shares at least P of its first six numbers with a kept one, and writes the
+// columns left. Ctrl-C stops the run; the columns left so far are written.
+
+#include <algorithm>
+#include <ostream>
+
+#include "Argomenti.h"
+#include "Comandi.h"
+#include "FileColonne.h"
+#include "Riduzione.h"
+#include "Terminale.h"
+#include "Utilita.h"
+
+namespace combi::cli {
+
+namespace {
+
+// The phase and its percentage on one redrawn line, only on a terminal.
+class OsservatoreRiduzioneTerminale : public OsservatoreRiduzione {
+public:
+    explicit OsservatoreRiduzioneTerminale(std::ostream& err) : err_(err), attivo_(SuTerminale(err)) {}
+    void Fase(const std::string& testo) override {
+        fase_ = testo;
+        Disegna();
+    }
+    void Percentuale(int percento) override {
+        percento_ = percento;
+        Disegna();
+    }
+    bool RichiestaStop() override { return StopDaTastiera(); }
+    void Chiudi() {
+        if (scritto_) err_ << "\n";
+        scritto_ = false;
+    }
+
+private:
+    void Disegna() {
+        if (!attivo_ || fase_.empty()) return;
+        // Padded so that a shorter line covers the previous one.
+        std::string riga = fase_ + " " + std::to_string(percento_) + "%";
+        riga.resize(std::max<size_t>(riga.size(), 60), ' ');
+        err_ << "\r" << riga << std::flush;
+        scritto_ = true;
+    }
+
+    std::ostream& err_;
+    bool attivo_;
+    bool scritto_ = false;
+    std::string fase_;
+    int percento_ = 0;
+};
+
+}  // namespace
+
+int ComandoRiduci(const Parole& parole, std::ostream& out, std::ostream& err) {
+    const Argomenti a(parole, {"punti", "colonne"}, {"riferimento"});
+    if (a.Posizionali().size() != 1) throw ErroreUso{"indicare un solo file di colonne (.col)"};
+    const auto punti = a.Opzione("punti");
+    if (!punti) throw ErroreUso{"manca --punti P (5, 4 o 3 numeri in comune)"};
+    const int puntiRichiesti = LeggiIntero(*punti, 1, kNumeriRiduzione, "--punti");
+    const auto uscita = a.Opzione("colonne");
+    if (!uscita) throw ErroreUso{"manca --colonne FILE.col"};
+
+    const std::vector<Colonna> colonne = LeggiColonneDaRidurre(a.Posizionali()[0]);
+    out << "Colonne : " << FormatNumero(double(colonne.size())) << "\n" << std::flush;
+    InstallaStopDaTastiera();
+    OsservatoreRiduzioneTerminale osservatore(err);
+    const Cronometro cronometro;
+    const RisultatoRiduzione r = a.Flag("riferimento") ? RiduciColonneRiferimento(colonne, puntiRichiesti, osservatore)
+                                                       : RiduciColonne(colonne, puntiRichiesti, osservatore);
+    osservatore.Chiudi();
+
+    ScriviFileColonne(*uscita, r.colonne);
+    out << "Colonne ridotte : " << FormatNumero(double(r.colonne.size())) << "\n"
+        << "Tempo : " << TempoTrascorso(cronometro.Secondi()) << "\n";
+    if (r.interrotto) out << "Riduzione interrotta: restano anche le colonne non ancora eliminate.\n";
+    return 0;
+}
+
+}  // namespace combi::cli

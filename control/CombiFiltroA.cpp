@@ -1,0 +1,175 @@
+// The host's side of the control: construction, persisted properties, the
+// public members read and called by the host and by the dialogs.
+
+#include "CombiFiltroA.h"
+
+#include <QComboBox>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QListWidget>
+
+#include <cmath>
+#include <thread>
+
+#include "ArchivioProprieta.h"
+#include "Conteggi.h"
+#include "Errore.h"
+#include "GrigliaCondizioni.h"
+#include "GrigliaNumeri.h"
+#include "LetturaNumero.h"
+#include "Misure.h"
+#include "RegistroControllo.h"
+#include "SegnalazioneErrori.h"
+#include "ServizioDialoghiQt.h"
+#include "UtilitaSchermo.h"
+#include "Utilita.h"
+
+namespace {
+
+const QString kChiaveClasse = "Classe";
+const QString kChiaveThreads = "NumeroThreadsSviluppo";
+constexpr int16_t kPredefinito = 5;
+
+}  // namespace
+
+CombiFiltroA::CombiFiltroA(ArchivioProprieta* archivio, ServizioDialoghi* dialoghi, QWidget* genitore)
+    : QWidget(genitore), archivio_(archivio), dialoghi_(dialoghi) {
+    setObjectName("CombiFiltroA");
+    if (archivio_ == nullptr) {
+        archivioProprio_ = std::make_unique<ArchivioMemoria>();
+        archivio_ = archivioProprio_.get();
+    }
+    if (dialoghi_ == nullptr) {
+        dialoghiPropri_ = std::make_unique<ServizioDialoghiQt>(this);
+        dialoghi_ = dialoghiPropri_.get();
+    }
+    orologio_ = [] { return QDateTime::currentMSecsSinceEpoch() / 1000.0; };
+    threadMotore_ = std::max(1u, std::thread::hardware_concurrency());
+    colonne_.assign(1, combi::Colonna{});
+
+    CostruisciPannello();
+    LayOutGrid();
+    RegistraControllo(this);
+
+    // Restoring the persisted properties.
+    const int16_t classeSalvata = archivio_->LeggiIntero(kChiaveClasse, kPredefinito);
+    numeroThreads_ = archivio_->LeggiIntero(kChiaveThreads, kPredefinito);
+    RicreaCampiLavoratori();
+    RiempiClasseERiduzione();
+    AggiornaComandiColonne();
+    classe_ = classeSalvata;
+    SelezionaVoceCombo(QString::number(classeSalvata), cmbClasse_);
+    cmbRid_->setCurrentIndex(0);
+    caricamento_ = false;
+}
+
+CombiFiltroA::~CombiFiltroA() { CancellaControllo(this); }
+
+double CombiFiltroA::ColonneIntegrali() const {
+    return combi::CalcolaIntegrali(ContaNumeriSel(), combi::LeggiInt16(cmbClasse_->currentText().toStdString()));
+}
+
+int16_t CombiFiltroA::classe() {
+    classe_ = combi::LeggiInt16(cmbClasse_->currentText().toStdString());
+    return classe_;
+}
+
+void CombiFiltroA::setClasse(int16_t valore) {
+    if (!SelezionaVoceCombo(QString::number(valore), cmbClasse_)) return;
+    classe_ = valore;
+    if (!caricamento_) archivio_->ScriviIntero(kChiaveClasse, valore);
+}
+
+void CombiFiltroA::setNumeroThreadsSviluppo(int16_t valore) {
+    numeroThreads_ = valore;
+    archivio_->ScriviIntero(kChiaveThreads, valore);
+    RicreaCampiLavoratori();
+}
+
+int32_t CombiFiltroA::QuantitaColonne() const {
+    return colonne_.empty() ? 0 : static_cast<int32_t>(colonne_.size() - 1);
+}
+
+void CombiFiltroA::SetColonnaGrid(int32_t id) { griglia_->PortaInVista(id); }
+
+void CombiFiltroA::GetColonneSviluppo(std::vector<combi::Colonna>& aRetCol) const {
+    if (QuantitaColonne() > 0) aRetCol = colonne_;
+}
+
+QString CombiFiltroA::GetColonnaSviluppo(int32_t id) const {
+    if (id < 1 || id > QuantitaColonne()) return {};
+    return QString::fromStdString(combi::TestoColonna(colonne_[id], false));
+}
+
+void CombiFiltroA::GetNumeriSel(std::array<int16_t, 91>& aNum) const {
+    aNum.fill(0);
+    int posto = 1;
+    for (int n = 1; n <= combi::kMaxNumero; ++n) {
+        if (numeri_->Selezionato(n)) aNum[posto++] = static_cast<int16_t>(n);
+    }
+}
+
+int32_t CombiFiltroA::ContaNumeriSel() const {
+    int32_t quanti = 0;
+    for (int n = 1; n <= combi::kMaxNumero; ++n) quanti += numeri_->Selezionato(n) ? 1 : 0;
+    return quanti;
+}
+
+void CombiFiltroA::SelezionaNumero(int16_t N, bool b) { numeri_->ImpostaNumero(N, b); }
+
+void CombiFiltroA::SetNum(int16_t num, bool v) {
+    if (num < 1 || num > combi::kMaxNumero) {
+        throw combi::Errore(combi::kErroreIndice, "Indice non compreso nell'intervallo");
+    }
+    flagNumeri_[num] = v;
+}
+
+void CombiFiltroA::Deinit() { CancellaControllo(this); }
+
+void CombiFiltroA::ImpostaColonneSviluppo(std::vector<combi::Colonna> colonne) {
+    if (colonne.empty()) colonne.assign(1, combi::Colonna{});
+    colonne_ = std::move(colonne);
+    AggiornaComandiColonne();
+}
+
+// ---- Measures: straight to the engine ----
+
+int32_t CombiFiltroA::CalcolaBaricentro(int16_t k, const combi::Colonna& c) const { return combi::CalcolaBaricentro(k, c); }
+int32_t CombiFiltroA::CalcolaPonte(int16_t k, const combi::Colonna& c) const { return combi::CalcolaPonte(k, c); }
+int32_t CombiFiltroA::CalcolaAmpiezza(int16_t k, const combi::Colonna& c) const { return combi::CalcolaAmpiezza(k, c); }
+int32_t CombiFiltroA::CalcolaDistanzaMinima(int16_t k, const combi::Colonna& c) const { return combi::CalcolaDistanzaMinima(k, c); }
+int32_t CombiFiltroA::CalcolaDistanzaMassima(int16_t k, const combi::Colonna& c) const { return combi::CalcolaDistanzaMassima(k, c); }
+int32_t CombiFiltroA::CalcolaConsecutivi(int16_t k, const combi::Colonna& c) const { return combi::CalcolaConsecutivi(k, c); }
+int32_t CombiFiltroA::CalcolaInterruzioni(int16_t k, const combi::Colonna& c) const { return combi::CalcolaInterruzioni(k, c); }
+int32_t CombiFiltroA::CalcolaVorticeDiretto(int16_t k, const combi::Colonna& c) const { return combi::CalcolaVorticeDiretto(k, c); }
+int32_t CombiFiltroA::CalcolaVorticeInverso(int16_t k, const combi::Colonna& c) const { return combi::CalcolaVorticeInverso(k, c); }
+int32_t CombiFiltroA::CalcolaSimmetrieDirette(int16_t k, const combi::Colonna& c) const { return combi::CalcolaSimmetrieDirette(k, c); }
+int32_t CombiFiltroA::CalcolaSimmetrieInverse(int16_t k, const combi::Colonna& c) const { return combi::CalcolaSimmetrieInverse(k, c); }
+int32_t CombiFiltroA::CalcolaParalleliDiretti(int16_t k, const combi::Colonna& c) const { return combi::CalcolaParalleliDiretti(k, c); }
+int32_t CombiFiltroA::CalcolaParalleliInversi(int16_t k, const combi::Colonna& c) const { return combi::CalcolaParalleliInversi(k, c); }
+
+int32_t CombiFiltroA::CalcolaSequenze(int16_t k, const combi::Colonna& c, const QString& sSeq) const {
+    return combi::CalcolaSequenze(k, c, sSeq.toStdString());
+}
+
+// ---- Column reduction: its window is not part of the control yet ----
+
+void CombiFiltroA::RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti) {
+    (void)nPuntiRichiesti;
+    if (!QFileInfo::exists(sFileCol)) {
+        dialoghi_->Critico(QString(), "Il file delle colonne non esiste");
+        return;
+    }
+    stopRiduzione_ = false;
+    EseguiEsterno("Riduzione");
+}
+
+void CombiFiltroA::StopRiduciColonne() { stopRiduzione_ = true; }
+
+int16_t CombiFiltroA::GetIdCmbTipoGioco() const { return static_cast<int16_t>(cmbTipoGioco_->currentIndex()); }
+
+QString CombiFiltroA::GetIdCmbTipoGiocoString() const { return cmbTipoGioco_->currentText(); }
+
+void CombiFiltroA::RegistraComando(const QString& chiave, std::function<void()> gestore) {
+    comandiEsterni_[chiave.toLower()] = std::move(gestore);
+}

@@ -1,0 +1,281 @@
+#pragma once
+// CombiFiltroA: the control a host embeds to build and develop conditioned
+// systems. It owns the conditions grid, the recovery list, the panel and the
+// developed columns. Everything runs on the host's user-interface thread; a
+// development keeps the window alive by pumping events every 10000 columns.
+//
+// The implementation is split by concern:
+//   CombiFiltroA.cpp          the host's interface, persisted properties, life cycle
+//   CombiFiltroAPannello.cpp  panel, toolbar, combos, commands and their states
+//   CombiFiltroAGriglia.cpp   creating, editing and moving conditions in the grid
+//   CombiFiltroASviluppo.cpp  development, stop and worker progress
+//   CombiFiltroAFile.cpp      system file and columns file
+
+#include <QHash>
+#include <QString>
+#include <QWidget>
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "Colonna.h"
+#include "Condizione.h"
+
+class ArchivioProprieta;
+class FabbricaEditori;
+class EditoreCondizione;
+class GrigliaCondizioni;
+class GrigliaNumeri;
+class QAction;
+class QComboBox;
+class QLineEdit;
+class QListWidget;
+class QMenu;
+class QToolBar;
+class QToolButton;
+class ServizioDialoghi;
+
+enum eMotoreSviluppo : int16_t {
+    interno = 1,  // development inside this process
+    esterno = 2,  // development by external workers
+};
+
+class CombiFiltroA : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString DirSistemi READ dirSistemi WRITE setDirSistemi)
+    Q_PROPERTY(double ColonneIntegrali READ ColonneIntegrali)
+    Q_PROPERTY(int MotoreSviluppo READ MotoreSviluppo)
+    Q_PROPERTY(int classe READ classe WRITE setClasse)
+    Q_PROPERTY(int NumeroThreadsSviluppo READ NumeroThreadsSviluppo WRITE setNumeroThreadsSviluppo)
+    Q_PROPERTY(int QuantitaColonne READ QuantitaColonne)
+
+public:
+    // `archivio` keeps "Classe" and "NumeroThreadsSviluppo"; `dialoghi` shows
+    // every box and file dialog. Both stay owned by the host and must outlive
+    // the control; nullptr gives an in-memory store and the real dialogs.
+    explicit CombiFiltroA(ArchivioProprieta* archivio = nullptr, ServizioDialoghi* dialoghi = nullptr,
+                          QWidget* genitore = nullptr);
+    ~CombiFiltroA() override;
+
+    // ---- Properties ----
+    void setDirSistemi(const QString& cartella) { dirSistemi_ = cartella; }
+    QString dirSistemi() const { return dirSistemi_; }
+    // C(n, k): n picked numbers, k the class combo's value.
+    double ColonneIntegrali() const;
+    // 0 until a development started here, then interno.
+    int16_t MotoreSviluppo() const { return motore_; }
+    // Read: the class combo's value (stored as Classe). Write: selects the
+    // entry through SelezionaVoceCombo; a value without entry clears the
+    // selection and changes nothing else.
+    int16_t classe();
+    void setClasse(int16_t valore);
+    // External development workers (not the engine's threads, below).
+    int16_t NumeroThreadsSviluppo() const { return numeroThreads_; }
+    void setNumeroThreadsSviluppo(int16_t valore);
+    // Columns kept by the last development; 0 when none.
+    int32_t QuantitaColonne() const;
+    // Threads of the engine in a development inside this process; by default
+    // one per hardware thread.
+    int ThreadMotore() const { return threadMotore_; }
+    void setThreadMotore(int quanti) { threadMotore_ = quanti; }
+
+    // ---- Methods of the host and of the dialogs ----
+    GrigliaCondizioni* GetGridCond() const { return griglia_; }
+    QListWidget* GetLbQuadroRec() const { return lbQuadroRec_; }
+    void SetColonnaGrid(int32_t id);
+    // When columns are kept, `aRetCol` becomes 0..N with element 0 empty and
+    // the kept columns at 1..N; otherwise it is left untouched.
+    void GetColonneSviluppo(std::vector<combi::Colonna>& aRetCol) const;
+    // Column id as "03 17 45 88"; empty when id is not a kept column.
+    QString GetColonnaSviluppo(int32_t id) const;
+    // aNum[1..] the picked numbers ascending, the rest 0 (aNum[0] unused).
+    void GetNumeriSel(std::array<int16_t, 91>& aNum) const;
+    int32_t ContaNumeriSel() const;
+    void SelezionaNumero(int16_t N, bool b);
+    // Enters a condition of type T.Tipo in the next free column; a non-empty
+    // sParam fills the type's editor without showing it (types 4..18).
+    void InsCondizione(const combi::Condizione& T, const QString& sParam);
+    // A whole development from the panel's settings; returns when it ended.
+    void GestSviluppo();
+    // Flags of the host, kept and never read; num outside 1..90 throws
+    // combi::Errore 9.
+    void SetNum(int16_t num, bool v);
+    // Before the host drops the control: clears the registry.
+    void Deinit();
+
+    int32_t CalcolaBaricentro(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaPonte(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaAmpiezza(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaDistanzaMinima(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaDistanzaMassima(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaConsecutivi(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaInterruzioni(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaVorticeDiretto(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaVorticeInverso(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaSimmetrieDirette(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaSimmetrieInverse(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaParalleliDiretti(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaParalleliInversi(int16_t nClasse, const combi::Colonna& col) const;
+    int32_t CalcolaSequenze(int16_t nClasse, const combi::Colonna& col, const QString& sSeq) const;
+
+    void SalvaFileColonne();
+    // Column reduction: not available to the user yet; RiduciColonne checks
+    // the file and hands over to the handler of the "Riduzione" command.
+    void RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti);
+    void StopRiduciColonne();
+    bool RichiestaStopRiduzione() const { return stopRiduzione_; }
+
+    int16_t GetIdCmbTipoGioco() const;
+    QString GetIdCmbTipoGiocoString() const;
+
+    // ---- The conditions grid ----
+    void LayOutGrid();
+    // Creates or replaces the condition of `colonna` (0: the next free one,
+    // updated to the column used) through the type's editor.
+    void GestisciCondizione(int tipo, int16_t& colonna, const QString& sParam);
+    int16_t PrimaColonnaLibera() const;
+    int16_t ContaCondizioniInLink(int colonna) const;
+    int16_t UltimaColonnaUsata() const;
+    void ModificaCondizione();
+    void InserisciColonna();
+    void EliminaCondizione();
+    void CambiaLarghezzaColonne(int passo);
+
+    // ---- Panel ----
+    // A toolbar button or menu entry by key (any letter case), as if the user
+    // pressed it; nothing happens while it is disabled.
+    void EseguiComando(const QString& chiave);
+    QToolButton* Pulsante(const QString& chiave) const;
+    QAction* VoceMenu(const QString& chiave) const;
+    QComboBox* CmbTipoGioco() const { return cmbTipoGioco_; }
+    QComboBox* CmbClasse() const { return cmbClasse_; }
+    QComboBox* CmbRid() const { return cmbRid_; }
+    GrigliaNumeri* Numeri() const { return numeri_; }
+    QLineEdit* LabNumSel() const { return labNumSel_; }
+    QLineEdit* LabIntegrale() const { return labIntegrale_; }
+    QLineEdit* LabSviluppate() const { return labSviluppate_; }
+    QLineEdit* LabCondizionate() const { return labCondizionate_; }
+    QLineEdit* LabGaranzia() const { return labGaranzia_; }
+    // Hidden fields of the external workers, i = 1..NumeroThreadsSviluppo.
+    QLineEdit* TxtPMin(int i) const;
+    QLineEdit* TxtPMax(int i) const;
+    QLineEdit* txtMsgFromDll(int i) const;
+
+    bool SistemaModificato() const { return modificato_; }
+    void SegnaModificato() { modificato_ = true; }
+    QString FileSistema() const { return fileSistema_; }
+    bool InSviluppo() const { return inSviluppo_; }
+    // The per-condition counters of the last development.
+    const combi::TabellaCondizioni& CondizioniUltimoSviluppo() const { return condizioniSviluppo_; }
+    // Replaces the developed columns (element 0 empty), e.g. after a reduction.
+    void ImpostaColonneSviluppo(std::vector<combi::Colonna> colonne);
+
+    // "New": after the modified check, an empty system.
+    void Nuovo();
+    // Saves to `fileName`, asking for a name when it is empty. Guarded.
+    void Salva(QString& fileName);
+    // Asks for a system file and loads it. Guarded.
+    void Apri();
+    // Loads a system file without asking. Guarded; false when it failed.
+    bool CaricaSistema(const QString& percorso);
+
+    // The recovery panels confirmed in their editor: for panel i (1..20) the
+    // texts of its minimum and maximum boxes. Rebuilds LbQuadroRec.
+    void RicostruisciQuadri(const std::array<std::array<QString, 2>, 21>& minMax);
+
+    // ---- Extension points ----
+    // Editors of the condition types; the control keeps only "LinkClose".
+    void ImpostaFabbricaEditori(FabbricaEditori* fabbrica) { fabbrica_ = fabbrica; }
+    // Handlers of the commands whose windows live elsewhere ("QuadroRecuperi",
+    // "VisualizzaColonne", "Naviga", "EffettoCondizioni", "ConfrontoCondSuCol",
+    // "Riduzione"); without one the command says it is not available yet.
+    // "AggiornaNavigatore" is called after a condition is deleted.
+    void RegistraComando(const QString& chiave, std::function<void()> gestore);
+    // The clock of the development time, in seconds (tests fake it).
+    void ImpostaOrologio(std::function<double()> orologio) { orologio_ = std::move(orologio); }
+
+signals:
+    // The "Condizioni" button itself was pressed.
+    void CondizioniPressed();
+    // "StampaSk" with columns kept: print them for the game sTipogioco.
+    void StampaSk(QString& sTipogioco);
+
+private:
+    friend class OsservatorePannello;
+
+    // Panel (CombiFiltroAPannello.cpp)
+    void CostruisciPannello();
+    QWidget* CostruisciBarra();
+    QWidget* CostruisciFondo();
+    void RiempiClasseERiduzione();
+    void ClasseCambiata();
+    void NumeriCambiati();
+    void AggiornaIntegrale();
+    void AggiornaGaranzia();
+    void ImpostaStatoSviluppo(bool inCorso);
+    void AggiornaComandiColonne();
+    bool ConsentiSenzaSalvare();
+    void EseguiPulsante(const QString& chiave);
+    void EseguiVoceMenu(const QString& chiave);
+    void EseguiEsterno(const QString& chiave);
+    void RicreaCampiLavoratori();
+    void AggiornaContatoriLavoratori();
+    void ChiediStop();
+
+    // Grid (CombiFiltroAGriglia.cpp)
+    void Gestisci(int tipo, int16_t& colonna, const QString& sParam,
+                  std::unique_ptr<EditoreCondizione> editore);
+    std::unique_ptr<EditoreCondizione> CreaEditore(int tipo);
+
+    // Development (CombiFiltroASviluppo.cpp)
+    void SviluppoInterno();
+
+    // File (CombiFiltroAFile.cpp)
+    void CaricaSistemaNonProtetta(const QString& percorso);
+
+    ArchivioProprieta* archivio_ = nullptr;
+    ServizioDialoghi* dialoghi_ = nullptr;
+    std::unique_ptr<ArchivioProprieta> archivioProprio_;
+    std::unique_ptr<ServizioDialoghi> dialoghiPropri_;
+    FabbricaEditori* fabbrica_ = nullptr;
+    QHash<QString, std::function<void()>> comandiEsterni_;  // lower-case keys
+    std::function<double()> orologio_;
+
+    // Widgets
+    GrigliaCondizioni* griglia_ = nullptr;
+    QListWidget* lbQuadroRec_ = nullptr;
+    GrigliaNumeri* numeri_ = nullptr;
+    QToolBar* barra_ = nullptr;
+    QHash<QString, QToolButton*> pulsanti_;  // lower-case keys
+    QHash<QString, QAction*> vociMenu_;      // lower-case keys
+    QComboBox* cmbTipoGioco_ = nullptr;
+    QComboBox* cmbClasse_ = nullptr;
+    QComboBox* cmbRid_ = nullptr;
+    QLineEdit* labNumSel_ = nullptr;
+    QLineEdit* labIntegrale_ = nullptr;
+    QLineEdit* labSviluppate_ = nullptr;
+    QLineEdit* labCondizionate_ = nullptr;
+    QLineEdit* labGaranzia_ = nullptr;
+    QWidget* contenitoreLavoratori_ = nullptr;
+    std::vector<QLineEdit*> txtPMin_, txtPMax_, txtMsgFromDll_;  // element 0 unused
+    std::vector<int32_t> testateLavoratori_, tenuteLavoratori_;
+
+    // State
+    QString dirSistemi_;
+    QString fileSistema_;
+    bool modificato_ = false;
+    std::vector<combi::Colonna> colonne_;  // element 0 empty, kept columns 1..M
+    combi::TabellaCondizioni condizioniSviluppo_;
+    int16_t motore_ = 0;
+    int16_t numeroThreads_ = 5;
+    int16_t classe_ = 5;
+    int threadMotore_ = 0;
+    std::array<bool, 91> flagNumeri_{};
+    bool caricamento_ = true;  // properties being restored: nothing is persisted
+    bool inSviluppo_ = false;
+    bool richiestaStop_ = false;
+    bool stopRiduzione_ = false;
+};

@@ -1,0 +1,93 @@
+// The system file (".sic") and the columns file (".col").
+//
+// Both files are written by the engine through a temporary file renamed over
+// the target, so the old file is never deleted first: a failed save leaves the
+// previous file whole instead of a partial one.
+
+#include "CombiFiltroA.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QListWidget>
+
+#include "DecodificaCondizioni.h"
+#include "FileColonne.h"
+#include "FileSistema.h"
+#include "GrigliaCondizioni.h"
+#include "GrigliaNumeri.h"
+#include "LetturaNumero.h"
+#include "ScritturaCondizioni.h"
+#include "SegnalazioneErrori.h"
+#include "ServizioDialoghi.h"
+#include "TestiGrigliaQt.h"
+#include "UtilitaSchermo.h"
+#include "Utilita.h"
+
+namespace {
+
+const QString kFiltroSistemi = "Sistemi condizionati (*.sic)|*.sic";
+const QString kFiltroColonne = "File colonne (*.col)|*.col";
+
+}  // namespace
+
+void CombiFiltroA::Salva(QString& fileName) {
+    EseguiProtetta(*dialoghi_, "CombiFiltro.Salva", [&] {
+        if (fileName.isEmpty()) {
+            const QString scelto = DialogoSalva(*dialoghi_, dirSistemi_, "Salva sistema", kFiltroSistemi,
+                                                fileSistema_, ".sic");
+            fileSistema_ = scelto;
+            fileName = scelto;
+        }
+        if (fileName.isEmpty()) return;
+
+        combi::FileSistema sistema;
+        for (int n = 1; n <= combi::kMaxNumero; ++n) {
+            sistema.intestazione.numeri[n] = numeri_->Selezionato(n) ? combi::kVero : combi::kFalso;
+        }
+        sistema.intestazione.classe = combi::LeggiInt16(cmbClasse_->currentText().toStdString());
+        sistema.intestazione.riduzione = combi::LeggiInt16(cmbRid_->currentText().toStdString());
+        combi::SistemaDecodificato decodificato = combi::LeggiCondizioni(LeggiTestiGriglia(*griglia_, *lbQuadroRec_));
+        sistema.condizioni = std::move(decodificato.condizioni);
+        sistema.quadri = decodificato.quadri;
+        sistema.quadri[0] = combi::QuadroRecupero{};  // belongs to no panel
+        combi::ScriviFileSistema(fileName.toStdString(), sistema);
+        modificato_ = false;
+    });
+}
+
+void CombiFiltroA::Apri() {
+    QString cartella = QString::fromStdString(combi::CartellaDelFile(fileSistema_.toStdString()));
+    if (!combi::IsCartella(cartella.toStdString())) cartella = dirSistemi_;
+    const QString scelto = DialogoApri(*dialoghi_, cartella, "Apri sistema", kFiltroSistemi, fileSistema_, ".sic");
+    if (scelto.isEmpty()) return;
+    CaricaSistema(scelto);
+}
+
+bool CombiFiltroA::CaricaSistema(const QString& percorso) {
+    return EseguiProtetta(*dialoghi_, "CombiFiltro.Apri", [&] { CaricaSistemaNonProtetta(percorso); });
+}
+
+void CombiFiltroA::CaricaSistemaNonProtetta(const QString& percorso) {
+    fileSistema_ = percorso;
+    const combi::FileSistema sistema = combi::LeggiFileSistema(percorso.toStdString());
+    for (int n = 1; n <= combi::kMaxNumero; ++n) numeri_->ImpostaNumero(n, sistema.intestazione.numeri[n] != 0);
+    SelezionaVoceCombo(QString::number(sistema.intestazione.classe), cmbClasse_);
+    SelezionaVoceCombo(QString::number(sistema.intestazione.riduzione), cmbRid_);
+    LayOutGrid();
+    RiempiGriglia(*griglia_, *lbQuadroRec_, combi::TestiDaSistema(sistema.condizioni, sistema.quadri));
+    SetColonnaGrid(1);
+    VoceMenu("Salva")->setEnabled(true);
+    modificato_ = false;
+}
+
+void CombiFiltroA::SalvaFileColonne() {
+    EseguiProtetta(*dialoghi_, "CombiFiltro.SalvaFileColonne", [&] {
+        QString nome = QString::fromStdString(combi::NomeSenzaEstensione(fileSistema_.toStdString()));
+        if (nome.isEmpty()) nome = "NuovoSistema";
+        const QString scelto =
+            DialogoSalva(*dialoghi_, dirSistemi_, "Salva colonne", kFiltroColonne, nome + ".col", ".col");
+        if (scelto.trimmed().isEmpty()) return;
+        const std::vector<combi::Colonna> colonne(colonne_.begin() + 1, colonne_.end());
+        combi::ScriviFileColonne(scelto.toStdString(), colonne);
+    });
+}

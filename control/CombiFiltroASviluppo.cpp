@@ -1,0 +1,106 @@
+// Development from the panel. The engine runs on the user-interface thread
+// (its worker threads compute meanwhile) and calls back every 10000 tested
+// columns: the counters are refreshed, the stop request is read and pending
+// events run, so the window stays alive and "Stop" can be pressed.
+
+#include "CombiFiltroA.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include <cmath>
+
+#include "DecodificaCondizioni.h"
+#include "GrigliaCondizioni.h"
+#include "GrigliaNumeri.h"
+#include "LetturaNumero.h"
+#include "SegnalazioneErrori.h"
+#include "ServizioDialoghi.h"
+#include "Sviluppo.h"
+#include "TestiGrigliaQt.h"
+#include "UtilitaSchermo.h"
+#include "Utilita.h"
+
+class OsservatorePannello : public combi::OsservatoreSviluppo {
+public:
+    explicit OsservatorePannello(CombiFiltroA& controllo) : controllo_(controllo) {}
+
+    void Progresso(uint64_t testate, uint64_t tenute) override {
+        controllo_.labSviluppate_->setText(TestoContatore(static_cast<double>(testate)));
+        controllo_.labCondizionate_->setText(TestoContatore(static_cast<double>(tenute)));
+    }
+    bool RichiestaStop() override { return controllo_.richiestaStop_; }
+    void ElaboraMessaggi() override { QApplication::processEvents(); }
+
+private:
+    CombiFiltroA& controllo_;
+};
+
+namespace {
+
+// Leaves the developing state however the development ends.
+class StatoSviluppo {
+public:
+    explicit StatoSviluppo(std::function<void(bool)> imposta) : imposta_(std::move(imposta)) { imposta_(true); }
+    ~StatoSviluppo() { imposta_(false); }
+    StatoSviluppo(const StatoSviluppo&) = delete;
+    StatoSviluppo& operator=(const StatoSviluppo&) = delete;
+
+private:
+    std::function<void(bool)> imposta_;
+};
+
+}  // namespace
+
+void CombiFiltroA::GestSviluppo() {
+    if (inSviluppo_) return;  // the event pump of a running development
+    EseguiProtetta(*dialoghi_, "CombiFiltro.GestSviluppo", [&] {
+        const int classe = combi::LeggiInt16(cmbClasse_->currentText().toStdString());
+        if (classe > ContaNumeriSel()) {
+            dialoghi_->Esclamazione(QString(), "Impostare il pronostico");
+            return;
+        }
+        motore_ = interno;
+        // A monotonic-enough wall clock in seconds: unlike the seconds since
+        // midnight it does not go negative across midnight.
+        const double inizio = orologio_();
+        SviluppoInterno();
+        const auto secondi = static_cast<int32_t>(std::lround(orologio_() - inizio));
+        dialoghi_->Informazione(QString(), "Fine sviluppo \r\n" +
+                                               QString::fromStdString(combi::TempoTrascorso(secondi)));
+    });
+}
+
+void CombiFiltroA::SviluppoInterno() {
+    colonne_.assign(1, combi::Colonna{});
+    condizioniSviluppo_.clear();
+    labSviluppate_->setText("0");
+    labCondizionate_->setText("0");
+    StatoSviluppo stato([this](bool inCorso) { ImpostaStatoSviluppo(inCorso); });
+
+    combi::ParametriSviluppo parametri;
+    for (int n = 1; n <= combi::kMaxNumero; ++n) {
+        if (numeri_->Selezionato(n)) parametri.numeri.push_back(n);
+    }
+    parametri.classe = combi::LeggiInt16(cmbClasse_->currentText().toStdString());
+    parametri.riduzione = combi::LeggiInt16(cmbRid_->currentText().toStdString());
+    combi::SistemaDecodificato sistema = combi::LeggiCondizioni(LeggiTestiGriglia(*griglia_, *lbQuadroRec_));
+    parametri.condizioni = std::move(sistema.condizioni);
+    parametri.quadri = sistema.quadri;
+
+    richiestaStop_ = false;
+    OsservatorePannello osservatore(*this);
+    combi::OpzioniSviluppo opzioni;
+    opzioni.thread = threadMotore_;
+    combi::RisultatoSviluppo risultato = combi::SviluppaSistema(parametri, osservatore, opzioni);
+
+    colonne_.reserve(risultato.colonne.size() + 1);
+    colonne_.insert(colonne_.end(), risultato.colonne.begin(), risultato.colonne.end());
+    condizioniSviluppo_ = std::move(risultato.condizioni);
+}
+
+void CombiFiltroA::ChiediStop() {
+    if (dialoghi_->Domanda(QString(), "Interrompere ?")) richiestaStop_ = true;
+}

@@ -1,0 +1,46 @@
+#include "F_PuntisuColonna.h"
+
+#include <QVBoxLayout>
+
+#include "GrigliaNumeri.h"
+#include "LetturaNumero.h"
+#include "Testo.h"
+#include "ScritturaCondizioni.h"
+
+F_PuntisuColonna::F_PuntisuColonna(const VoceCatalogo& voce, const ContestoEditore& contesto,
+                                   QWidget* genitore)
+    : F_PuntiSuElenco(voce, contesto, genitore) {
+    griglia_ = new GrigliaNumeri(this);
+    griglia_->setObjectName("GrigliaNumeri1");
+    griglia_->setWindowFlags(Qt::Widget);  // embedded, not the panel's tool window
+    ZonaPropria()->addWidget(griglia_);
+    AbilitaNum(contesto.numeriSelezionati);
+}
+
+void F_PuntisuColonna::AbilitaNum(const GrigliaNumeri& numeri) {
+    for (int n = 1; n <= 90; ++n) griglia_->ImpostaDisponibile(n, numeri.Selezionato(n));
+}
+
+void F_PuntisuColonna::AbilitaNum(const std::vector<int>& numeri) {
+    for (int n = 1; n <= 90; ++n) griglia_->ImpostaDisponibile(n, false);
+    for (int n : numeri) griglia_->ImpostaDisponibile(n, true);
+}
+
+void F_PuntisuColonna::RiempiDaParametri(const QString&) {
+    // The set is always picked by the user: the dialog is shown whatever
+    // text the host passes.
+}
+
+QString F_PuntisuColonna::TestoParametri() const {
+    // Two digits each, joined by "-", four numbers to a 12-character line.
+    std::array<int16_t, 91> scelti{};
+    for (int n = 1; n <= 90; ++n) scelti[n] = griglia_->Selezionato(n) ? combi::kVero : combi::kFalso;
+    return QString::fromStdString(combi::TestoNumeriColonna(scelti));
+}
+
+void F_PuntisuColonna::LeggiParametri(const std::string& testo) {
+    // The line breaks after every fourth number are not part of the numbers.
+    for (std::string_view pezzo : combi::Dividi(combi::RimuoviACapo(testo), "-")) {
+        griglia_->ImpostaNumero(combi::LeggiInt32(pezzo), true);
+    }
+}

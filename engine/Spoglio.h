@@ -1,0 +1,59 @@
+#pragma once
+// The winnings check: the drawn numbers typed by the user against the current
+// columns, as data for the three lists of the dialog and for the command line.
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Colonna.h"
+
+namespace combi {
+
+inline constexpr const char* kMsgNumeriDa1a90 = "Inserire numeri da 1 a 90";
+inline constexpr const char* kMsgMassimo20Numeri = "La colonna vincente deve contenere massimo 20 numeri";
+
+// The message that refuses the typed text, or "" when it can be checked. The
+// text is split at ","; every item must read (leading-number reading) as a
+// value above 0 and at most 90, so an empty or non-numeric item fails; 21 or
+// more items give the second message, which wins over the first. An empty
+// text has nothing to check and is refused with the first message.
+std::string ControllaEstrazione(std::string_view testo);
+
+// One row of the "Vincite" list.
+struct RigaVincita {
+    int64_t colonna = 0;   // 1-based position in the column list
+    std::string numeri;    // "05 12 33 41 90": the non-zero numbers, two digits each
+    int punti = 0;
+    bool operator==(const RigaVincita&) const = default;
+};
+
+// One row of the "Riepilogo" list.
+struct RigaRiepilogo {
+    std::string vincita;   // "Vincite con 5 punti " (the trailing blank is part of it)
+    int64_t colonne = 0;
+    bool operator==(const RigaRiepilogo&) const = default;
+};
+
+struct EsitoSpoglio {
+    std::vector<RigaVincita> vincite;               // columns with points >= the minimum, in list order
+    std::array<int64_t, kMaxClasse + 1> contatori{}; // contatori[p]: columns scoring p points
+    std::vector<RigaRiepilogo> riepilogo;           // from the class down to the minimum
+};
+
+// `colonne` are the columns 1..N of the list (element 0 is column 1). A
+// column scores one point for each of its positions 1..classe whose number
+// equals the value of some drawn number: a number typed twice counts once.
+// Throws Errore when the text is refused (its message), or when the class is
+// outside 1..20 or the minimum below 1.
+EsitoSpoglio VerificaVincite(const std::vector<Colonna>& colonne, int classe, std::string_view estrazione,
+                             int puntiMinimi);
+
+// The drawn numbers as a column record in the order typed, for the check of
+// the conditions: position i holds the i-th number, the rest 0. Throws Errore
+// when the text is refused.
+Colonna EstrazioneComeColonna(std::string_view estrazione);
+
+}  // namespace combi

@@ -1,0 +1,221 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <numeric>
+#include <random>
+
+#include "Errore.h"
+#include "Riduzione.h"
+#include "RiduzioneFasi.h"
+
+namespace combi {
+namespace {
+
+using riduzione::Rappresentativita;
+using riduzione::TabellaRappresentativita;
+
+// Every call the reduction makes, in order, and a stop that starts at the
+// k-th message pump (0: never).
+class Registro : public OsservatoreRiduzione {
+public:
+    explicit Registro(int stopAlPasso = 0) : stopAl_(stopAlPasso) {}
+    void Fase(const std::string& t) override { eventi.push_back(std::string("F").append(t)); }
+    void Percentuale(int p) override { eventi.push_back(std::string("P").append(std::to_string(p))); }
+    void ElaboraMessaggi() override {
+        ++pompe;
+        eventi.push_back("M");
+    }
+    bool RichiestaStop() override { return stopAl_ > 0 && pompe >= stopAl_; }
+    std::vector<std::string> eventi;
+    int pompe = 0;
+
+private:
+    int stopAl_;
+};
+
+Colonna Col(std::initializer_list<int> numeri) {
+    Colonna c;
+    int pos = 1;
+    for (int n : numeri) c[pos++] = uint8_t(n);
+    return c;
+}
+
+int Comuni(const Colonna& a, const Colonna& b) {
+    int k = 0;
+    for (int p = 1; p <= 6; ++p)
+        for (int q = 1; q <= 6; ++q) k += a[p] == b[q];
+    return k;
+}
+
+// Columns drawn from the numbers 1..pool, with exact copies (the first six
+// shuffled, the tail changed) and copies with one number changed.
+std::vector<Colonna> ColonneCasuali(uint32_t seme, size_t n, int pool, int classe = 6) {
+    std::mt19937 rng(seme);
+    std::vector<int> numeri(static_cast<size_t>(pool), 0);
+    std::iota(numeri.begin(), numeri.end(), 1);
+    std::vector<Colonna> v;
+    while (v.size() < n) {
+        const int caso = int(rng() % 10);
+        Colonna c;
+        if (caso < 2 && !v.empty()) {
+            c = v[rng() % v.size()];
+            std::shuffle(c.Numeri.begin(), c.Numeri.begin() + 6, rng);
+            c[7] = uint8_t(rng() % 90 + 1);
+        } else if (caso < 4 && !v.empty()) {
+            c = v[rng() % v.size()];
+            std::shuffle(numeri.begin(), numeri.end(), rng);
+            for (int x : numeri)
+                if (std::find(c.Numeri.begin(), c.Numeri.begin() + 6, x) == c.Numeri.begin() + 6) {
+                    c[int(rng() % 6) + 1] = uint8_t(x);
+                    break;
+                }
+        } else {
+            std::shuffle(numeri.begin(), numeri.end(), rng);
+            std::sort(numeri.begin(), numeri.begin() + std::min(classe, pool));
+            for (int p = 1; p <= std::min(classe, pool); ++p) c[p] = uint8_t(numeri[size_t(p) - 1]);
+        }
+        v.push_back(c);
+    }
+    return v;
+}
+
+// The promise of a complete reduction: kept columns do not cover each other,
+// and every dropped column is covered by a kept one.
+void ControllaGaranzia(const std::vector<Colonna>& tutte, const std::vector<Colonna>& tenute, int t,
+                       bool completa) {
+    for (const Colonna& c : tutte) {
+        const bool coperta = std::any_of(tenute.begin(), tenute.end(),
+                                         [&](const Colonna& k) { return Comuni(c, k) >= t; });
+        ASSERT_TRUE(coperta);
+    }
+    if (!completa) return;
+    for (size_t a = 0; a < tenute.size(); ++a)
+        for (size_t b = a + 1; b < tenute.size(); ++b) ASSERT_LT(Comuni(tenute[a], tenute[b]), t);
+}
+
+TEST(Riduzione, FastPathMatchesReferenceOnRandomSets) {
+    struct Caso { uint32_t seme; size_t n; int t; int pool; };
+    const Caso casi[] = {
+        {1, 50, 3, 10},   {2, 400, 3, 14},  {3, 400, 4, 14},  {4, 400, 5, 12},  {5, 1500, 4, 20},
+        {6, 1500, 3, 30}, {7, 800, 6, 9},   {8, 800, 1, 40},  {9, 800, 2, 40},  {10, 3000, 5, 16},
+        {11, 20000, 4, 24},
+    };
+    for (const Caso& c : casi) {
+        SCOPED_TRACE("seme " + std::to_string(c.seme) + " t=" + std::to_string(c.t));
+        const std::vector<Colonna> v = ColonneCasuali(c.seme, c.n, c.pool);
+        EXPECT_EQ(riduzione::ContaCoperture(v, c.t), riduzione::ContaCopertureRiferimento(v, c.t));
+        Registro veloce, riferimento;
+        const RisultatoRiduzione a = RiduciColonne(v, c.t, veloce);
+        const RisultatoRiduzione b = RiduciColonneRiferimento(v, c.t, riferimento);
+        EXPECT_EQ(a.colonne, b.colonne);
+        EXPECT_EQ(veloce.eventi, riferimento.eventi);
+        EXPECT_FALSE(a.interrotto);
+        EXPECT_LT(a.colonne.size(), v.size());
+        if (c.n <= 1500) {
+            ControllaGaranzia(v, a.colonne, c.t, true);
+        }
+    }
+}
+
+TEST(Riduzione, StopAtAnyPumpGivesTheSameResultOnBothPaths) {
+    const size_t n = 300;
+    const std::vector<Colonna> v = ColonneCasuali(42, n, 13);
+    // Pumps 1..300 follow the analysed columns, 301 precedes the sort, the
+    // rest follow the selected positions.
+    for (int k : {1, 2, 150, 299, 300, 301, 302, 303, 320, 450, 599, 100000}) {
+        SCOPED_TRACE("stop alla pompa " + std::to_string(k));
+        Registro veloce(k), riferimento(k);
+        const RisultatoRiduzione a = RiduciColonne(v, 3, veloce);
+        const RisultatoRiduzione b = RiduciColonneRiferimento(v, 3, riferimento);
+        EXPECT_EQ(a.colonne, b.colonne);
+        EXPECT_EQ(veloce.eventi, riferimento.eventi);
+        EXPECT_EQ(a.interrotto, k <= riferimento.pompe);
+        ControllaGaranzia(v, a.colonne, 3, k == 100000);
+        // Stopped before the selection: it processes one position, pumps no more.
+        if (k <= 301) {
+            EXPECT_EQ(riferimento.pompe, k <= 300 ? k + 1 : 301);
+        } else if (k < 100000) {
+            EXPECT_EQ(riferimento.pompe, k);
+        }
+    }
+}
+
+TEST(Riduzione, SortIsTheListQuicksortWithItsEarlyReturn) {
+    struct Caso { std::vector<int> conte; bool fermo; std::vector<int> ordine; };
+    const Caso casi[] = {
+        {{}, false, {}},
+        {{7}, false, {1}},
+        {{1, 1}, false, {2, 1}},               // equal counts: the pivot swaps them
+        {{0, 5, 1}, false, {2, 3, 1}},
+        {{0, 5, 1}, true, {3, 2, 1}},          // one exchange step, then return
+        {{3, 3, 3, 3}, false, {3, 4, 1, 2}},  // all equal: every segment swaps its ends
+        {{1, 2, 3, 4, 5}, false, {5, 4, 3, 2, 1}},
+    };
+    for (const Caso& c : casi) {
+        TabellaRappresentativita t(c.conte.size() + 1);
+        for (size_t i = 0; i < c.conte.size(); ++i) t[i + 1] = {int32_t(i + 1), c.conte[i]};
+        riduzione::OrdinaTabella(t, c.fermo);
+        std::vector<int> ordine;
+        for (size_t i = 1; i < t.size(); ++i) ordine.push_back(t[i].indice);
+        EXPECT_EQ(ordine, c.ordine);
+    }
+    std::mt19937 rng(5);
+    for (int prova = 0; prova < 50; ++prova) {
+        TabellaRappresentativita t(rng() % 500 + 1);
+        for (size_t i = 1; i < t.size(); ++i) t[i] = {int32_t(i), int32_t(rng() % 7)};
+        TabellaRappresentativita ordinata = t;
+        riduzione::OrdinaTabella(ordinata, false);
+        EXPECT_TRUE(std::is_sorted(ordinata.begin() + 1, ordinata.end(),
+                                   [](auto& a, auto& b) { return a.conta > b.conta; }));
+        EXPECT_TRUE(std::is_permutation(t.begin() + 1, t.end(), ordinata.begin() + 1));
+    }
+}
+
+TEST(Riduzione, SmallSetsAndStricterGuarantees) {
+    Registro r;
+    EXPECT_TRUE(RiduciColonne({}, 4, r).colonne.empty());
+    const auto F = [](const char* fase) { return std::string("F").append(fase); };
+    EXPECT_EQ(r.eventi, (std::vector<std::string>{F(kFaseAnalisi), F(kFaseOrdinamento), "M", F(kFaseRiduzione),
+                                                  "F", "P0"}));
+    const std::vector<Colonna> una = {Col({1, 2, 3, 4, 5, 6})};
+    EXPECT_EQ(RiduciColonne(una, 3, r).colonne, una);
+    // Same first six, different tails: the sorted order reaches column 2 first.
+    const std::vector<Colonna> gemelle = {Col({1, 2, 3, 4, 5, 6, 7}), Col({6, 5, 4, 3, 2, 1, 8})};
+    for (int t : {3, 6}) {
+        EXPECT_EQ(RiduciColonne(gemelle, t, r).colonne, std::vector<Colonna>{gemelle[1]});
+        EXPECT_EQ(RiduciColonneRiferimento(gemelle, t, r).colonne, std::vector<Colonna>{gemelle[1]});
+    }
+    for (uint32_t seme = 1; seme <= 20; ++seme) {
+        const std::vector<Colonna> v = ColonneCasuali(seme, 300, 12 + int(seme % 5), 7);
+        size_t tenute[7] = {};
+        for (int t = 1; t <= 6; ++t) tenute[t] = RiduciColonne(v, t, r).colonne.size();
+        for (int t = 2; t <= 6; ++t) EXPECT_GE(tenute[t], tenute[t - 1]) << "seme " << seme;
+    }
+}
+
+TEST(Riduzione, RefusesColumnsWithoutSixNumbersAndBadPoints) {
+    struct Caso { std::vector<Colonna> colonne; int punti; int numero; std::string testo; };
+    const Caso casi[] = {
+        {{Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 4, 5})}, 3, kErroreFormatoFile, "La colonna 2 "},
+        {{Col({0, 2, 3, 4, 5, 6})}, 3, kErroreFormatoFile, "La colonna 1 "},
+        {{Col({1, 2, 3, 4, 5, 91})}, 3, kErroreFormatoFile, "da 1 a 90"},
+        {{Col({1, 2, 3, 4, 5, 6}), Col({7, 7, 8, 9, 10, 11})}, 3, kErroreFormatoFile, "diversi"},
+        {{Col({1, 2, 3, 4, 5, 6})}, 0, kErroreArgomento, "da 1 a 6"},
+        {{Col({1, 2, 3, 4, 5, 6})}, 7, kErroreArgomento, "da 1 a 6"},
+    };
+    for (const Caso& c : casi) {
+        for (bool riferimento : {false, true}) {
+            Registro r;
+            try {
+                riferimento ? RiduciColonneRiferimento(c.colonne, c.punti, r) : RiduciColonne(c.colonne, c.punti, r);
+                ADD_FAILURE() << "accepted: " << c.testo;
+            } catch (const Errore& e) {
+                EXPECT_EQ(e.numero(), c.numero);
+                EXPECT_NE(e.descrizione().find(c.testo), std::string::npos) << e.descrizione();
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace combi

@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include "Errore.h"
+#include "Spoglio.h"
+
+namespace combi {
+namespace {
+
+Colonna Col(std::initializer_list<int> numeri) {
+    Colonna c;
+    int pos = 1;
+    for (int n : numeri) c[pos++] = uint8_t(n);
+    return c;
+}
+
+std::string Elenco(int da, int a, const std::string& extra = "") {
+    std::string s;
+    for (int n = da; n <= a; ++n) {
+        if (n > da) s += ',';
+        s += std::to_string(n);
+    }
+    s += extra;
+    return s;
+}
+
+TEST(Spoglio, DrawnNumbersAreCheckedBeforeTheCount) {
+    struct Caso { std::string testo; std::string messaggio; };
+    const Caso casi[] = {
+        {"5,12,90", ""},
+        {" 5, 12 ,90", ""},
+        {"0,5", kMsgNumeriDa1a90},
+        {"5,91", kMsgNumeriDa1a90},
+        {"-1", kMsgNumeriDa1a90},
+        {"5,,7", kMsgNumeriDa1a90},
+        {"5,", kMsgNumeriDa1a90},
+        {"abc", kMsgNumeriDa1a90},
+        {"", kMsgNumeriDa1a90},
+        {Elenco(1, 20), ""},
+        {Elenco(1, 21), kMsgMassimo20Numeri},
+        {Elenco(1, 20, ",0"), kMsgMassimo20Numeri},  // the count message wins
+    };
+    for (const Caso& c : casi) EXPECT_EQ(ControllaEstrazione(c.testo), c.messaggio) << "\"" << c.testo << "\"";
+    EXPECT_THROW(VerificaVincite({}, 6, "5,91", 2), Errore);
+    EXPECT_THROW(EstrazioneComeColonna(Elenco(1, 21)), Errore);
+}
+
+TEST(Spoglio, ColumnsScoreEachPositionOnce) {
+    const std::vector<Colonna> colonne = {
+        Col({1, 2, 3, 4, 5, 6}),        // 5
+        Col({5, 12, 20, 30, 40, 90}),   // 5 12 90
+        Col({12, 13, 14, 15, 16, 90}),  // 12 90
+        Col({7, 8, 9, 10, 11, 13}),     // none
+        Col({1, 2, 3, 4, 6, 7, 5}),     // 5 sits beyond class 6
+    };
+    for (const char* estrazione : {"5,12,90", "5,5,12,90,12", "90,12,5"}) {
+        const EsitoSpoglio e = VerificaVincite(colonne, 6, estrazione, 2);
+        EXPECT_EQ(e.vincite, (std::vector<RigaVincita>{{2, "05 12 20 30 40 90", 3}, {3, "12 13 14 15 16 90", 2}}));
+        EXPECT_EQ(e.contatori[0], 2);
+        EXPECT_EQ(e.contatori[1], 1);
+        EXPECT_EQ(e.contatori[3], 1);
+    }
+    // Class 7 counts the seventh position; a fractional number matches nothing.
+    EXPECT_EQ(VerificaVincite(colonne, 7, "5,6", 2).vincite, (std::vector<RigaVincita>{{1, "01 02 03 04 05 06", 2},
+                                                                                       {5, "01 02 03 04 06 07 05", 2}}));
+    EXPECT_EQ(VerificaVincite(colonne, 6, "5,5.5", 1).vincite.size(), 2u);
+}
+
+TEST(Spoglio, SummaryRunsFromTheClassDownToTheMinimum) {
+    const EsitoSpoglio e = VerificaVincite({Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 7, 8, 9})}, 6, "1,2,3,4", 3);
+    EXPECT_EQ(e.riepilogo, (std::vector<RigaRiepilogo>{
+                               {"Vincite con 6 punti ", 0}, {"Vincite con 5 punti ", 0},
+                               {"Vincite con 4 punti ", 1}, {"Vincite con 3 punti ", 1}}));
+    const EsitoSpoglio vuoto = VerificaVincite({}, 6, "1,2", 2);
+    EXPECT_TRUE(vuoto.vincite.empty());
+    ASSERT_EQ(vuoto.riepilogo.size(), 5u);
+    for (const RigaRiepilogo& r : vuoto.riepilogo) EXPECT_EQ(r.colonne, 0);
+    // Class 20 with all twenty drawn: the table reaches 20 points.
+    Colonna venti;
+    for (int p = 1; p <= 20; ++p) venti[p] = uint8_t(p * 4);
+    std::string tutti;
+    for (int p = 1; p <= 20; ++p) {
+        if (p > 1) tutti += ',';
+        tutti += std::to_string(p * 4);
+    }
+    const EsitoSpoglio pieno = VerificaVincite({venti}, 20, tutti, 10);
+    EXPECT_EQ(pieno.contatori[20], 1);
+    EXPECT_EQ(pieno.riepilogo.front(), (RigaRiepilogo{"Vincite con 20 punti ", 1}));
+    EXPECT_EQ(pieno.riepilogo.size(), 11u);
+    EXPECT_THROW(VerificaVincite({venti}, 21, "1", 1), Errore);
+}
+
+TEST(Spoglio, DrawnNumbersBecomeAColumnInTypedOrder) {
+    EXPECT_EQ(EstrazioneComeColonna("90,5, 12"), Col({90, 5, 12}));
+    EXPECT_EQ(EstrazioneComeColonna("7,7"), Col({7, 7}));
+    EXPECT_EQ(EstrazioneComeColonna(Elenco(71, 90)), Col({71, 72, 73, 74, 75, 76, 77, 78, 79, 80, 81, 82, 83, 84,
+                                                            85, 86, 87, 88, 89, 90}));
+}
+
+}  // namespace
+}  // namespace combi
