@@ -28,6 +28,7 @@ GrigliaCondizioni::GrigliaCondizioni(QWidget* genitore) : QTableWidget(genitore)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     horizontalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setMinimumSectionSize(1);  // the width limits are ours
     connect(this, &QTableWidget::currentCellChanged, this, [this] { Evidenzia(); });

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace {
 
@@ -46,8 +47,14 @@ void ServizioDialoghiQt::Critico(const QString& titolo, const QString& testo) {
 }
 
 bool ServizioDialoghiQt::Domanda(const QString& titolo, const QString& testo) {
-    return QMessageBox::question(proprietario_, TitoloBox(titolo), testo,
-                                 QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    // The buttons are named here, so they read Italian even where Qt's own
+    // translations are not installed.
+    QMessageBox domanda(QMessageBox::Question, TitoloBox(titolo), testo, QMessageBox::NoButton, proprietario_);
+    QPushButton* si = domanda.addButton("Sì", QMessageBox::YesRole);
+    domanda.addButton("No", QMessageBox::NoRole);
+    domanda.setDefaultButton(si);
+    domanda.exec();
+    return domanda.clickedButton() == si;
 }
 
 QString ServizioDialoghiQt::FileDaSalvare(const QString& cartella, const QString& titolo,

@@ -239,3 +239,38 @@ TEST(Pannello, ConditionEntryThroughEditors) {
     EXPECT_EQ(b.Cella(1, 2), "");
     EXPECT_EQ(b.c.PrimaColonnaLibera(), 2);
 }
+
+TEST(Pannello, CommandsOfOtherWindowsAndRecoveryPanels) {
+    Banco b;
+    b.c.EseguiComando("Naviga");
+    EXPECT_EQ(b.dialoghi.Ultimo()->testo, "Funzione non ancora disponibile");
+
+    int riduzioni = 0;
+    b.c.RegistraComando("Riduzione", [&] {
+        ++riduzioni;
+        std::vector<combi::Colonna> ridotte(2);
+        ridotte[1][1] = 7;
+        b.c.ImpostaColonneSviluppo(ridotte);
+    });
+    b.c.EseguiComando("riduzione");
+    EXPECT_EQ(riduzioni, 1);
+    EXPECT_EQ(b.c.QuantitaColonne(), 1);
+    EXPECT_TRUE(b.c.Pulsante("VisualizzaColonne")->isEnabled()) << "column commands refreshed";
+
+    b.c.RiduciColonne("/non/esiste.col", 3);
+    EXPECT_EQ(b.dialoghi.Ultimo()->tipo, "critico");
+    EXPECT_EQ(b.dialoghi.Ultimo()->testo, "Il file delle colonne non esiste");
+    EXPECT_EQ(riduzioni, 1);
+
+    std::array<std::array<QString, 2>, 21> minMax;
+    minMax[1] = {"2", "3"};
+    minMax[2] = {"1", " "};
+    minMax[20] = {"0", "4,5"};
+    b.c.RicostruisciQuadri(minMax);
+    QListWidget* quadri = b.c.GetLbQuadroRec();
+    ASSERT_EQ(quadri->count(), 20);
+    EXPECT_EQ(quadri->item(0)->text(), "2,3,-1");
+    EXPECT_EQ(quadri->item(1)->text(), "-1,-1,-0") << "a blank bound leaves the panel unused";
+    EXPECT_EQ(quadri->item(19)->text(), "0,4,-1");
+    EXPECT_TRUE(b.c.SistemaModificato());
+}

@@ -1,0 +1,62 @@
+#include "FinestraPrincipale.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QMenuBar>
+#include <QMessageBox>
+
+#include "ArchivioQSettings.h"
+#include "CollegaEditori.h"
+#include "EditoreCondizione.h"
+#include "CombiFiltroA.h"
+#include "ServizioDialoghiQt.h"
+#include "StampaSchedine.h"
+
+QString CartellaSistemi() {
+    const QString cartella = QDir::home().filePath("CombiFiltro/Sistemi");
+    QDir().mkpath(cartella);
+    return cartella;
+}
+
+FinestraPrincipale::FinestraPrincipale(std::unique_ptr<ServizioDialoghi> dialoghi)
+    : archivio_(std::make_unique<ArchivioQSettings>()), dialoghi_(std::move(dialoghi)) {
+    if (!dialoghi_) dialoghi_ = std::make_unique<ServizioDialoghiQt>(this);
+    setWindowTitle("CombiFiltro - Sistemi condizionati");
+    controllo_ = new CombiFiltroA(archivio_.get(), dialoghi_.get(), this);
+    setCentralWidget(controllo_);
+    controllo_->setDirSistemi(CartellaSistemi());
+    editori_ = CollegaEditori(*controllo_, *dialoghi_);
+
+    connect(controllo_, &CombiFiltroA::StampaSk, this,
+            [this](QString& tipoGioco) { AnteprimaSchedine(this, *controllo_, tipoGioco); });
+    connect(controllo_, &CombiFiltroA::CondizioniPressed, this, [this] {
+        QMessageBox::information(this, "Condizioni",
+                                 "Aprire il menu a tendina del pulsante \"Condizioni\" e scegliere il tipo "
+                                 "di condizione: verrà inserita nella prima colonna libera della griglia.\n"
+                                 "Doppio clic su una colonna per modificarla.");
+    });
+
+    QMenu* file = menuBar()->addMenu("&File");
+    file->addAction("&Esci", this, &QWidget::close);
+    QMenu* aiuto = menuBar()->addMenu("&?");
+    aiuto->addAction("&Informazioni", this, [this] {
+        QMessageBox::about(this, "CombiFiltro",
+                           "CombiFiltro\nCostruzione e sviluppo di sistemi condizionati.");
+    });
+    resize(1280, 800);
+}
+
+FinestraPrincipale::~FinestraPrincipale() {
+    // The registry must not outlive the control.
+    controllo_->Deinit();
+}
+
+void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
+    // A running development returns to its own loop only when it ends: the
+    // user stops it first.
+    if (controllo_->InSviluppo()) {
+        evento->ignore();
+        return;
+    }
+    QMainWindow::closeEvent(evento);
+}
