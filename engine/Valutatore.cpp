@@ -192,18 +192,6 @@ void Prepara(int k, const Colonna& c, Colonna128& col) {
     }
 }
 
-int32_t DistanzaMinima(const ProfiloColonna& pc) {
-    if (pc.k < 2) return 1000;
-    int32_t d = pc.c[2] - pc.c[1];
-    for (int i = 2; i < pc.k; ++i) d = std::min(d, pc.c[i + 1] - pc.c[i]);
-    return d;
-}
-
-int32_t DistanzaMassima(const ProfiloColonna& pc) {
-    int32_t d = 0;
-    for (int i = 1; i < pc.k; ++i) d = std::max(d, pc.c[i + 1] - pc.c[i]);
-    return d;
-}
 
 int32_t Consecutivi(const Colonna128& col) {
     const Maschera128& m = col.numeri;  // x and x+1 both in the column
@@ -241,8 +229,8 @@ int32_t Misura(const Colonna128& col, int tipo, int parametro, const Maschera128
     case kBaricentro: return MisuraBaricentro(col.pc);
     case kAmpiezza: return MisuraAmpiezza(col.pc);
     case kPosizioni: return MisuraPosizioni(col.pc, parametro);
-    case kDistanzaMinima: return DistanzaMinima(col.pc);
-    case kDistanzaMassima: return DistanzaMassima(col.pc);
+    case kDistanzaMinima: return MisuraDistanzaMinima(col.pc);
+    case kDistanzaMassima: return MisuraDistanzaMassima(col.pc);
     case kPeso: return MisuraPeso(col.pc, origine.Numeri);
     default: return MisuraCondizione(origine, col.pc);
     }
