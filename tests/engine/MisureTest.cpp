@@ -1,16 +1,13 @@
 #include <gtest/gtest.h>
 
+#include "ColonnaDiProva.h"
+
 #include "Misure.h"
 
 namespace combi {
 namespace {
 
-Colonna Col(std::initializer_list<int> numeri) {
-    Colonna c;
-    int pos = 1;
-    for (int n : numeri) c[pos++] = uint8_t(n);
-    return c;
-}
+using test::Col;
 
 TEST(Misure, ColumnOneTwoThreeFiveSeven) {
     const Colonna c = Col({1, 2, 3, 5, 7});  // parities 1 0 1 1 1

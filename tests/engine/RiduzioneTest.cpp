@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "ColonnaDiProva.h"
+
 #include <algorithm>
 #include <numeric>
 #include <random>
@@ -33,12 +35,7 @@ private:
     int stopAl_;
 };
 
-Colonna Col(std::initializer_list<int> numeri) {
-    Colonna c;
-    int pos = 1;
-    for (int n : numeri) c[pos++] = uint8_t(n);
-    return c;
-}
+using test::Col;
 
 int Comuni(const Colonna& a, const Colonna& b) {
     int k = 0;

@@ -1,17 +1,14 @@
 #include <gtest/gtest.h>
 
+#include "ColonnaDiProva.h"
+
 #include "Errore.h"
 #include "Spoglio.h"
 
 namespace combi {
 namespace {
 
-Colonna Col(std::initializer_list<int> numeri) {
-    Colonna c;
-    int pos = 1;
-    for (int n : numeri) c[pos++] = uint8_t(n);
-    return c;
-}
+using test::Col;
 
 std::string Elenco(int da, int a, const std::string& extra = "") {
     std::string s;

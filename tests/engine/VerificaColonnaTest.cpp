@@ -1,17 +1,14 @@
 #include <gtest/gtest.h>
 
+#include "ColonnaDiProva.h"
+
 #include "DecodificaCondizioni.h"
 #include "VerificaColonna.h"
 
 namespace combi {
 namespace {
 
-Colonna Col(std::initializer_list<int> numeri) {
-    Colonna c;
-    int pos = 1;
-    for (int n : numeri) c[pos++] = uint8_t(n);
-    return c;
-}
+using test::Col;
 
 SistemaDecodificato Leggi(std::vector<TestiCondizione> colonne, std::vector<std::string> quadri = {}) {
     TestiGriglia g;
