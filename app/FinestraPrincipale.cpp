@@ -7,6 +7,7 @@
 
 #include "ArchivioQSettings.h"
 #include "CollegaEditori.h"
+#include "CollegaStrumenti.h"
 #include "EditoreCondizione.h"
 #include "CombiFiltroA.h"
 #include "ServizioDialoghiQt.h"
@@ -26,6 +27,7 @@ FinestraPrincipale::FinestraPrincipale(std::unique_ptr<ServizioDialoghi> dialogh
     setCentralWidget(controllo_);
     controllo_->setDirSistemi(CartellaSistemi());
     editori_ = CollegaEditori(*controllo_, *dialoghi_);
+    CollegaStrumenti(*controllo_, *dialoghi_);
 
     connect(controllo_, &CombiFiltroA::StampaSk, this,
             [this](QString& tipoGioco) { AnteprimaSchedine(this, *controllo_, tipoGioco); });

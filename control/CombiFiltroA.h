@@ -170,6 +170,12 @@ public:
     bool InSviluppo() const { return inSviluppo_; }
     // The per-condition counters of the last development.
     const combi::TabellaCondizioni& CondizioniUltimoSviluppo() const { return condizioniSviluppo_; }
+    // The counters for the condition effect report: after a development in
+    // this process a copy of its table, otherwise the sums over the files that
+    // the external workers left (a missing or broken file adds nothing).
+    void RaccogliCondizioni(combi::TabellaCondizioni& tabella) const;
+    // Appends the columns of a worker's columns file to the developed columns.
+    void AccodaFileColonne(const QString& file);
     // Replaces the developed columns (element 0 empty), e.g. after a reduction.
     void ImpostaColonneSviluppo(std::vector<combi::Colonna> colonne);
 
