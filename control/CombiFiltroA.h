@@ -23,7 +23,11 @@
 
 #include "Colonna.h"
 #include "Condizione.h"
+#include "FileSistema.h"
 
+namespace combi {
+class OsservatoreRiduzione;
+}
 class ArchivioProprieta;
 class FabbricaEditori;
 class EditoreCondizione;
@@ -122,11 +126,21 @@ public:
     int32_t CalcolaSequenze(int16_t nClasse, const combi::Colonna& col, const QString& sSeq) const;
 
     void SalvaFileColonne();
-    // Column reduction: not available to the user yet; RiduciColonne checks
-    // the file and hands over to the handler of the "Riduzione" command.
+    // Column reduction: reduces the columns file `sFileCol` so that every
+    // dropped column shares at least `nPuntiRichiesti` (1..6) of its first six
+    // numbers with a kept one; the columns left replace the developed ones.
+    // Events are pumped after every step, so the window stays alive and
+    // StopRiduciColonne can end the run early (the columns not yet eliminated
+    // are kept). A missing or empty file is only reported; a failure is
+    // reported as "CombiFiltro.RiduciColonne" and changes nothing.
     void RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti);
     void StopRiduciColonne();
     bool RichiestaStopRiduzione() const { return stopRiduzione_; }
+    // The reduction window hands over the view of its phase label and
+    // percentage, asked for at the start of every reduction; a view that
+    // answers nullptr (its window is gone) or none at all: the run is unseen.
+    using VistaRiduzione = std::function<std::unique_ptr<combi::OsservatoreRiduzione>()>;
+    void RegistraVistaRiduzione(VistaRiduzione vista) { vistaRiduzione_ = std::move(vista); }
 
     int16_t GetIdCmbTipoGioco() const;
     QString GetIdCmbTipoGiocoString() const;
@@ -176,6 +190,12 @@ public:
     void RaccogliCondizioni(combi::TabellaCondizioni& tabella) const;
     // Appends the columns of a worker's columns file to the developed columns.
     void AccodaFileColonne(const QString& file);
+    // A development by external workers: whoever starts them calls
+    // IniziaSviluppoEsterno (start time, busy panel, no columns); the workers'
+    // completion fields then end the run. AnnullaSviluppoEsterno ends it
+    // without a result (a worker failed or the user stopped it).
+    void IniziaSviluppoEsterno();
+    void AnnullaSviluppoEsterno();
     // Replaces the developed columns (element 0 empty), e.g. after a reduction.
     void ImpostaColonneSviluppo(std::vector<combi::Colonna> colonne);
 
@@ -185,6 +205,9 @@ public:
     void Salva(QString& fileName);
     // Asks for a system file and loads it. Guarded.
     void Apri();
+    // The system on screen as it would be saved (throws combi::Errore for a
+    // grid the decoder refuses); saving it elsewhere leaves the modified flag.
+    combi::FileSistema SistemaCorrente() const;
     // Loads a system file without asking. Guarded; false when it failed.
     bool CaricaSistema(const QString& percorso);
 
@@ -198,7 +221,8 @@ public:
     // Handlers of the commands whose windows live elsewhere ("QuadroRecuperi",
     // "VisualizzaColonne", "Naviga", "EffettoCondizioni", "ConfrontoCondSuCol",
     // "Riduzione"); without one the command says it is not available yet.
-    // "AggiornaNavigatore" is called after a condition is deleted.
+    // "AggiornaNavigatore" is called after a condition is deleted;
+    // "StopLavoratori" when "Stop" is confirmed during an external development.
     void RegistraComando(const QString& chiave, std::function<void()> gestore);
     // The clock of the development time, in seconds (tests fake it).
     void ImpostaOrologio(std::function<double()> orologio) { orologio_ = std::move(orologio); }
@@ -228,6 +252,7 @@ private:
     void EseguiVoceMenu(const QString& chiave);
     void EseguiEsterno(const QString& chiave);
     void RicreaCampiLavoratori();
+    void ControllaCompletamento();
     void AggiornaContatoriLavoratori();
     void ChiediStop();
 
@@ -268,6 +293,7 @@ private:
     QWidget* contenitoreLavoratori_ = nullptr;
     std::vector<QLineEdit*> txtPMin_, txtPMax_, txtMsgFromDll_;  // element 0 unused
     std::vector<int32_t> testateLavoratori_, tenuteLavoratori_;
+    double inizioEsterno_ = 0;  // clock reading when the workers were started
 
     // State
     QString dirSistemi_;
@@ -284,4 +310,5 @@ private:
     bool inSviluppo_ = false;
     bool richiestaStop_ = false;
     bool stopRiduzione_ = false;
+    VistaRiduzione vistaRiduzione_;
 };

@@ -40,19 +40,23 @@ void CombiFiltroA::Salva(QString& fileName) {
         }
         if (fileName.isEmpty()) return;
 
-        combi::FileSistema sistema;
-        for (int n = 1; n <= combi::kMaxNumero; ++n) {
-            sistema.intestazione.numeri[n] = numeri_->Selezionato(n) ? combi::kVero : combi::kFalso;
-        }
-        sistema.intestazione.classe = combi::LeggiInt16(cmbClasse_->currentText().toStdString());
-        sistema.intestazione.riduzione = combi::LeggiInt16(cmbRid_->currentText().toStdString());
-        combi::SistemaDecodificato decodificato = combi::LeggiCondizioni(LeggiTestiGriglia(*griglia_, *lbQuadroRec_));
-        sistema.condizioni = std::move(decodificato.condizioni);
-        sistema.quadri = decodificato.quadri;
-        sistema.quadri[0] = combi::QuadroRecupero{};  // belongs to no panel
-        combi::ScriviFileSistema(fileName.toStdString(), sistema);
+        combi::ScriviFileSistema(fileName.toStdString(), SistemaCorrente());
         modificato_ = false;
     });
+}
+
+combi::FileSistema CombiFiltroA::SistemaCorrente() const {
+    combi::FileSistema sistema;
+    for (int n = 1; n <= combi::kMaxNumero; ++n) {
+        sistema.intestazione.numeri[n] = numeri_->Selezionato(n) ? combi::kVero : combi::kFalso;
+    }
+    sistema.intestazione.classe = combi::LeggiInt16(cmbClasse_->currentText().toStdString());
+    sistema.intestazione.riduzione = combi::LeggiInt16(cmbRid_->currentText().toStdString());
+    combi::SistemaDecodificato decodificato = combi::LeggiCondizioni(LeggiTestiGriglia(*griglia_, *lbQuadroRec_));
+    sistema.condizioni = std::move(decodificato.condizioni);
+    sistema.quadri = decodificato.quadri;
+    sistema.quadri[0] = combi::QuadroRecupero{};  // belongs to no panel
+    return sistema;
 }
 
 void CombiFiltroA::Apri() {

@@ -5,8 +5,15 @@
 
 #include "CombiFiltroA.h"
 
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include <cmath>
+
 #include "ContatoriLavoratori.h"
 #include "FileColonne.h"
+#include "SegnalazioneErrori.h"
+#include "ServizioDialoghi.h"
 #include "Utilita.h"
 
 void CombiFiltroA::RaccogliCondizioni(combi::TabellaCondizioni& tabella) const {
@@ -17,9 +24,59 @@ void CombiFiltroA::RaccogliCondizioni(combi::TabellaCondizioni& tabella) const {
     tabella = combi::SommaContatoriLavoratori(combi::FileSistemaTemp(), numeroThreads_);
 }
 
+// A missing file reads as an empty one: the worker kept nothing.
 void CombiFiltroA::AccodaFileColonne(const QString& file) {
+    if (!combi::FileEsiste(file.toStdString())) return;
     const std::vector<combi::Colonna> lette = combi::LeggiFileColonne(file.toStdString());
     if (lette.empty()) return;
     if (colonne_.empty()) colonne_.assign(1, combi::Colonna{});
     colonne_.insert(colonne_.end(), lette.begin(), lette.end());
+}
+
+void CombiFiltroA::IniziaSviluppoEsterno() {
+    motore_ = esterno;
+    inizioEsterno_ = orologio_();
+    colonne_.assign(1, combi::Colonna{});
+    condizioniSviluppo_.clear();
+    richiestaStop_ = false;
+    for (QLineEdit* campo : txtMsgFromDll_) {
+        if (campo) campo->clear();
+    }
+    for (size_t i = 1; i < txtPMin_.size(); ++i) {
+        txtPMin_[i]->setText("0");
+        txtPMax_[i]->setText("0");
+    }
+    ImpostaStatoSviluppo(true);
+}
+
+void CombiFiltroA::AnnullaSviluppoEsterno() {
+    // Some workers may already have reported: their partial results are dropped.
+    for (QLineEdit* campo : txtMsgFromDll_) {
+        if (campo) {
+            const QSignalBlocker blocco(campo);
+            campo->clear();
+        }
+    }
+    colonne_.assign(1, combi::Colonna{});
+    if (inSviluppo_) ImpostaStatoSviluppo(false);
+}
+
+// Runs on every change of a completion field. Clearing the fields below
+// raises further changes; they find fewer than W filled and stop at once.
+void CombiFiltroA::ControllaCompletamento() {
+    int compilati = 0;
+    for (size_t i = 1; i < txtMsgFromDll_.size(); ++i) {
+        if (!txtMsgFromDll_[i]->text().trimmed().isEmpty()) ++compilati;
+    }
+    const int lavoratori = static_cast<int>(txtMsgFromDll_.size()) - 1;  // W, as far as fields exist
+    if (lavoratori < 1 || compilati != lavoratori) return;
+    EseguiProtetta(*dialoghi_, "CombiFiltro.txtMsgFromDll_Change", [&] {
+        for (size_t i = 1; i < txtMsgFromDll_.size(); ++i) {
+            AccodaFileColonne(txtMsgFromDll_[i]->text().trimmed());
+            txtMsgFromDll_[i]->clear();
+        }
+    });
+    ImpostaStatoSviluppo(false);
+    const auto secondi = static_cast<int32_t>(std::lround(orologio_() - inizioEsterno_));
+    dialoghi_->Informazione(QString(), QString::fromStdString(combi::TempoTrascorso(secondi)));
 }

@@ -366,8 +366,7 @@ void CombiFiltroA::RicreaCampiLavoratori() {
             tenuteLavoratori_[i] = combi::LeggiInt32(testo.toStdString());
             AggiornaContatoriLavoratori();
         });
-        // The completion of external workers (merging their columns files)
-        // is not handled by this control yet: their messages are only kept.
+        connect(messaggio, &QLineEdit::textChanged, this, [this] { ControllaCompletamento(); });
         txtPMin_.push_back(minimo);
         txtPMax_.push_back(massimo);
         txtMsgFromDll_.push_back(messaggio);

@@ -102,5 +102,10 @@ void CombiFiltroA::SviluppoInterno() {
 }
 
 void CombiFiltroA::ChiediStop() {
-    if (dialoghi_->Domanda(QString(), "Interrompere ?")) richiestaStop_ = true;
+    if (!dialoghi_->Domanda(QString(), "Interrompere ?")) return;
+    richiestaStop_ = true;
+    // External workers are not polled by this control: whoever started them stops them.
+    if (motore_ == esterno) {
+        if (const auto stop = comandiEsterni_.value("stoplavoratori")) stop();
+    }
 }

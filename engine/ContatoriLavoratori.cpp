@@ -1,5 +1,7 @@
 #include "ContatoriLavoratori.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <exception>
 
 #include "Errore.h"
@@ -8,6 +10,13 @@
 namespace combi {
 
 namespace {
+
+// The record counters are 32-bit: like the development's own counters the
+// sums stop at the largest value instead of wrapping.
+int32_t SommaSaturata(int32_t a, int32_t b) {
+    const int64_t somma = int64_t{a} + int64_t{b};
+    return static_cast<int32_t>(std::clamp<int64_t>(somma, INT32_MIN, INT32_MAX));
+}
 
 void AggiungiContatori(const Condizione& letta, Condizione& somma) {
     somma.Tipo = letta.Tipo;
@@ -21,14 +30,9 @@ void AggiungiContatori(const Condizione& letta, Condizione& somma) {
     somma.Superata = letta.Superata;
     somma.Recuperabile = letta.Recuperabile;
     somma.EsitoGruppo = letta.EsitoGruppo;
-    // The 32-bit counters of one worker cannot exceed its share; their sum
-    // over workers wraps like the file field it mirrors.
-    somma.ContaFallite = static_cast<int32_t>(static_cast<uint32_t>(somma.ContaFallite) +
-                                              static_cast<uint32_t>(letta.ContaFallite));
-    somma.ContaSuperate = static_cast<int32_t>(static_cast<uint32_t>(somma.ContaSuperate) +
-                                               static_cast<uint32_t>(letta.ContaSuperate));
-    somma.ContaRecuperabili = static_cast<int32_t>(static_cast<uint32_t>(somma.ContaRecuperabili) +
-                                                   static_cast<uint32_t>(letta.ContaRecuperabili));
+    somma.ContaFallite = SommaSaturata(somma.ContaFallite, letta.ContaFallite);
+    somma.ContaSuperate = SommaSaturata(somma.ContaSuperate, letta.ContaSuperate);
+    somma.ContaRecuperabili = SommaSaturata(somma.ContaRecuperabili, letta.ContaRecuperabili);
 }
 
 }  // namespace
