@@ -1,7 +1,9 @@
 #include "FinestraPrincipale.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDir>
+#include <QInputDialog>
 #include <QMenuBar>
 #include <QMessageBox>
 
@@ -12,6 +14,7 @@
 #include "CombiFiltroA.h"
 #include "ServizioDialoghiQt.h"
 #include "StampaSchedine.h"
+#include "SviluppoParallelo.h"
 
 QString CartellaSistemi() {
     const QString cartella = QDir::home().filePath("CombiFiltro/Sistemi");
@@ -28,6 +31,10 @@ FinestraPrincipale::FinestraPrincipale(std::unique_ptr<ServizioDialoghi> dialogh
     controllo_->setDirSistemi(CartellaSistemi());
     editori_ = CollegaEditori(*controllo_, *dialoghi_);
     CollegaStrumenti(*controllo_, *dialoghi_);
+    // The workers are the command-line program installed beside this one.
+    parallelo_ = new SviluppoParallelo(*controllo_, *dialoghi_,
+                                       QCoreApplication::applicationDirPath() + "/combifiltro-cli", this);
+    controllo_->RegistraComando("StopLavoratori", [this] { parallelo_->Ferma(); });
 
     connect(controllo_, &CombiFiltroA::StampaSk, this,
             [this](QString& tipoGioco) { AnteprimaSchedine(this, *controllo_, tipoGioco); });
@@ -40,6 +47,9 @@ FinestraPrincipale::FinestraPrincipale(std::unique_ptr<ServizioDialoghi> dialogh
 
     QMenu* file = menuBar()->addMenu("&File");
     file->addAction("&Esci", this, &QWidget::close);
+    QMenu* sviluppo = menuBar()->addMenu("&Sviluppo");
+    sviluppo->addAction("Sviluppo &parallelo", parallelo_, &SviluppoParallelo::Avvia);
+    sviluppo->addAction("&Processi di sviluppo...", this, &FinestraPrincipale::ChiediProcessi);
     QMenu* aiuto = menuBar()->addMenu("&?");
     aiuto->addAction("&Informazioni", this, [this] {
         QMessageBox::about(this, "CombiFiltro",
@@ -61,4 +71,11 @@ void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
         return;
     }
     QMainWindow::closeEvent(evento);
+}
+
+void FinestraPrincipale::ChiediProcessi() {
+    bool ok = false;
+    const int quanti = QInputDialog::getInt(this, "Sviluppo parallelo", "Numero dei processi di sviluppo:",
+                                            controllo_->NumeroThreadsSviluppo(), 1, 64, 1, &ok);
+    if (ok) controllo_->setNumeroThreadsSviluppo(static_cast<int16_t>(quanti));
 }

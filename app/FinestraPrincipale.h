@@ -24,10 +24,13 @@ protected:
     void closeEvent(QCloseEvent* evento) override;
 
 private:
+    void ChiediProcessi();
+
     std::unique_ptr<ArchivioProprieta> archivio_;
     std::unique_ptr<ServizioDialoghi> dialoghi_;
     std::unique_ptr<class FabbricaEditori> editori_;
     CombiFiltroA* controllo_ = nullptr;
+    class SviluppoParallelo* parallelo_ = nullptr;
 };
 
 // The folder proposed for systems and columns files (~/CombiFiltro/Sistemi),

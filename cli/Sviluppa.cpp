@@ -8,7 +8,9 @@
 #include "Comandi.h"
 #include "FileColonne.h"
 #include "FileSistema.h"
+#include "SviluppaMpi.h"
 #include "Sviluppo.h"
+#include "Rapporto.h"
 #include "Terminale.h"
 #include "Utilita.h"
 
@@ -35,7 +37,8 @@ OpzioniSviluppo LeggiOpzioni(const Argomenti& a) {
 }  // namespace
 
 int ComandoSviluppa(const Parole& parole, std::ostream& out, std::ostream& err) {
-    const Argomenti a(parole, {"colonne", "contatori", "thread", "quota"}, {"riferimento"});
+    const Argomenti a(parole, {"colonne", "contatori", "thread", "quota"}, {"riferimento", "rapporto", "mpi"});
+    if (a.Flag("mpi")) return SviluppaConMpi(a, out, err);
     if (a.Posizionali().size() != 1) throw ErroreUso{"indicare un solo file di sistema (.sic)"};
     const auto colonne = a.Opzione("colonne");
     if (!colonne) throw ErroreUso{"manca --colonne FILE.col"};
@@ -44,17 +47,25 @@ int ComandoSviluppa(const Parole& parole, std::ostream& out, std::ostream& err) 
     FileSistema sistema = LeggiFileSistema(a.Posizionali()[0]);
     const ParametriSviluppo p = ParametriDalFile(sistema);
     InstallaStopDaTastiera();
-    OsservatoreTerminale osservatore(err);
+    OsservatoreTerminale terminale(err);
+    OsservatoreRapporto rapporto(out);
+    OsservatoreSviluppo& osservatore = a.Flag("rapporto") ? static_cast<OsservatoreSviluppo&>(rapporto) : terminale;
     const Cronometro cronometro;
     const RisultatoSviluppo r = a.Flag("riferimento")
                                     ? SviluppaSistemaRiferimento(p, osservatore, opzioni.quota)
                                     : SviluppaSistema(p, osservatore, opzioni);
-    osservatore.Chiudi();
+    terminale.Chiudi();
 
     ScriviFileColonne(*colonne, r.colonne);
     if (auto contatori = a.Opzione("contatori")) {
         sistema.condizioni = r.condizioni;
         ScriviFileSistema(*contatori, sistema);
+    }
+    if (a.Flag("rapporto")) {
+        // A stopped worker reports no end: its share is incomplete.
+        if (r.interrotto) return 1;
+        rapporto.Fine(r.testate, r.colonne.size(), *colonne);
+        return 0;
     }
     out << "Sviluppate : " << FormatNumero(double(r.testate)) << "\n"
         << "Condizionate : " << FormatNumero(double(r.colonne.size())) << "\n"

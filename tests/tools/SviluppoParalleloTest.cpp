@@ -1,0 +1,141 @@
+// The parallel development with real worker processes: the merged result
+// equals the development inside the control, and a failing or stopped
+// worker ends the run without a result.
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QListWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include "../control/Banco.h"
+#include "SviluppoParallelo.h"
+
+namespace {
+
+// Worker files of every test go into a scratch folder (the children inherit it).
+class CartellaTempProvvisoria {
+public:
+    CartellaTempProvvisoria() : vecchia_(qgetenv("TMPDIR")) { qputenv("TMPDIR", dir_.path().toLocal8Bit()); }
+    ~CartellaTempProvvisoria() { qputenv("TMPDIR", vecchia_); }
+    QString Percorso(const QString& nome) const { return dir_.filePath(nome); }
+
+private:
+    QTemporaryDir dir_;
+    QByteArray vecchia_;
+};
+
+void SistemaDiProva(Banco& b) {
+    b.NumeriDa1A(18);
+    b.c.setClasse(5);  // 8568 columns
+    b.Condizione(1, "Consecutivi", "C", "0,1");
+    b.Condizione(2, "Punti Col.", "01.02.03.04.05.06", "1,2", "0", "1");
+    b.c.GetLbQuadroRec()->addItem("1,1,-1");  // panel 1: one failed condition may be recovered
+}
+
+// A worker program that behaves like the real one except as `caso` says for worker 2.
+QString LavoratoreDifettoso(const CartellaTempProvvisoria& temp, const QString& caso) {
+    const QString percorso = temp.Percorso("lavoratore.sh");
+    QFile f(percorso);
+    f.open(QIODevice::WriteOnly);
+    f.write(QString("#!/bin/sh\ncase \"$*\" in *\"--quota 2/\"*) %1 ;; esac\nexec \"%2\" \"$@\"\n")
+                .arg(caso, CF_PROGRAMMA_CLI)
+                .toUtf8());
+    f.close();
+    f.setPermissions(f.permissions() | QFileDevice::ExeOwner);
+    return percorso;
+}
+
+bool AttendiFine(const SviluppoParallelo& s) {
+    return QTest::qWaitFor([&] { return !s.InCorso(); }, 120000);
+}
+
+}  // namespace
+
+TEST(SviluppoParallelo, MergedWorkersEqualTheInternalDevelopment) {
+    CartellaTempProvvisoria temp;
+    Banco b;
+    SistemaDiProva(b);
+    b.c.GestSviluppo();
+    std::vector<combi::Colonna> interne;
+    b.c.GetColonneSviluppo(interne);
+    const combi::TabellaCondizioni contatoriInterni = b.c.CondizioniUltimoSviluppo();
+    ASSERT_GT(interne.size(), 100u);
+    ASSERT_LT(interne.size(), 8569u);
+    ASSERT_GT(contatoriInterni.at(1).ContaRecuperabili, 0) << "the panel must recover some columns";
+
+    for (int lavoratori : {1, 3}) {
+        b.dialoghi.boxes.clear();
+        b.c.setNumeroThreadsSviluppo(static_cast<int16_t>(lavoratori));
+        SviluppoParallelo parallelo(b.c, b.dialoghi, CF_PROGRAMMA_CLI);
+        parallelo.Avvia();
+        EXPECT_TRUE(b.c.InSviluppo());
+        EXPECT_FALSE(b.c.Pulsante("SviluppaCond")->isEnabled());
+        ASSERT_TRUE(AttendiFine(parallelo));
+
+        EXPECT_FALSE(b.c.InSviluppo());
+        EXPECT_EQ(b.c.MotoreSviluppo(), esterno);
+        std::vector<combi::Colonna> esterne;
+        b.c.GetColonneSviluppo(esterne);
+        EXPECT_TRUE(esterne == interne) << lavoratori << " workers";
+        EXPECT_EQ(Cifre(b.c.LabSviluppate()->text()), "8568");
+        ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << b.dialoghi.Testi().join("|").toStdString();
+        EXPECT_EQ(b.dialoghi.boxes[0].tipo, "informazione");
+
+        combi::TabellaCondizioni sommati;
+        b.c.RaccogliCondizioni(sommati);
+        ASSERT_EQ(sommati.size(), contatoriInterni.size());
+        for (size_t j = 0; j < sommati.size(); ++j) {
+            EXPECT_EQ(sommati[j].ContaFallite, contatoriInterni[j].ContaFallite) << j;
+            EXPECT_EQ(sommati[j].ContaSuperate, contatoriInterni[j].ContaSuperate) << j;
+            EXPECT_EQ(sommati[j].ContaRecuperabili, contatoriInterni[j].ContaRecuperabili) << j;
+        }
+    }
+}
+
+TEST(SviluppoParallelo, AFailingWorkerIsNamedAndNothingIsKept) {
+    const struct {
+        const char* caso;
+        const char* detto;
+    } casi[] = {
+        {"kill -9 $$", "Il processo di sviluppo 2 si è interrotto in modo anomalo"},
+        {"echo 'disco pieno' >&2; exit 3", "Il processo di sviluppo 2 è terminato con il codice 3"},
+    };
+    for (const auto& caso : casi) {
+        CartellaTempProvvisoria temp;
+        Banco b;
+        SistemaDiProva(b);
+        b.c.setNumeroThreadsSviluppo(3);
+        SviluppoParallelo parallelo(b.c, b.dialoghi, LavoratoreDifettoso(temp, caso.caso));
+        parallelo.Avvia();
+        ASSERT_TRUE(AttendiFine(parallelo));
+        QTest::qWait(50);  // late reports of the other workers must change nothing
+        EXPECT_FALSE(b.c.InSviluppo());
+        EXPECT_EQ(b.c.QuantitaColonne(), 0);
+        ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << b.dialoghi.Testi().join("|").toStdString();
+        EXPECT_EQ(b.dialoghi.boxes[0].tipo, "critico");
+        EXPECT_TRUE(b.dialoghi.boxes[0].testo.startsWith(caso.detto)) << b.dialoghi.boxes[0].testo.toStdString();
+        for (int i = 1; i <= 3; ++i) EXPECT_TRUE(b.c.txtMsgFromDll(i)->text().isEmpty());
+    }
+}
+
+TEST(SviluppoParallelo, StopEndsEveryWorker) {
+    CartellaTempProvvisoria temp;
+    Banco b;
+    SistemaDiProva(b);
+    b.c.setNumeroThreadsSviluppo(3);
+    SviluppoParallelo parallelo(b.c, b.dialoghi, LavoratoreDifettoso(temp, "sleep 60"));
+    b.c.RegistraComando("StopLavoratori", [&] { parallelo.Ferma(); });
+    parallelo.Avvia();
+    QTest::qWait(300);
+    ASSERT_TRUE(parallelo.InCorso());
+    b.dialoghi.risposte = {true};
+    b.c.EseguiComando("Stop");
+    EXPECT_FALSE(parallelo.InCorso());
+    EXPECT_FALSE(b.c.InSviluppo());
+    EXPECT_EQ(parallelo.Lavoratore(2)->state(), QProcess::NotRunning);
+    EXPECT_EQ(b.c.QuantitaColonne(), 0);
+    EXPECT_EQ(b.dialoghi.Testi().last(), "Sviluppo interrotto: nessuna colonna è stata tenuta.");
+}
