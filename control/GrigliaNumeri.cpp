@@ -1,5 +1,7 @@
 #include "GrigliaNumeri.h"
 
+#include <QKeyEvent>
+
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -67,6 +69,18 @@ void GrigliaNumeri::closeEvent(QCloseEvent* evento) {
     // The panel hides the window with hide(), which sends no close event:
     // only the user closes it.
     if (evento->isAccepted()) emit Chiusa();
+}
+
+void GrigliaNumeri::keyPressEvent(QKeyEvent* evento) {
+    if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter) {
+        QWidget::keyPressEvent(evento);
+        return;
+    }
+    if (isWindow()) {
+        close();  // reports Chiusa
+    } else {
+        emit Chiusa();
+    }
 }
 
 void GrigliaNumeri::AggiornaConteggio() {

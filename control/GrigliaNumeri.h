@@ -32,11 +32,14 @@ public:
 signals:
     // After every change of the picks, by the user or by the program.
     void SelezioneCambiata();
-    // The user closed the window.
+    // The user ended the selection: closed the window, or pressed Enter in
+    // it (also when the grid is embedded in a dialog, which takes it as its
+    // confirmation).
     void Chiusa();
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
 
 private:
     void AggiornaConteggio();

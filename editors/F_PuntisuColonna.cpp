@@ -1,5 +1,6 @@
 #include "F_PuntisuColonna.h"
 
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "GrigliaNumeri.h"
@@ -15,6 +16,8 @@ F_PuntisuColonna::F_PuntisuColonna(const VoceCatalogo& voce, const ContestoEdito
     griglia_->setWindowFlags(Qt::Widget);  // embedded, not the panel's tool window
     ZonaPropria()->addWidget(griglia_);
     AbilitaNum(contesto.numeriSelezionati);
+    // Ending the pick in the grid confirms the dialog, as on the main panel.
+    connect(griglia_, &GrigliaNumeri::Chiusa, this, [this] { Pulsante(0)->click(); });
 }
 
 void F_PuntisuColonna::AbilitaNum(const GrigliaNumeri& numeri) {

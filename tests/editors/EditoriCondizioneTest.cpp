@@ -1,6 +1,7 @@
 // Entering, editing and cancelling a condition of every type, and the texts
 // it leaves in the grid.
 #include <QCheckBox>
+#include <QTest>
 #include <QLabel>
 
 #include <functional>
@@ -185,6 +186,13 @@ TEST(EditoriCondizione, PuntiSuColonnaOffreSoloINumeriDelSistemaEVaACapoOgniQuat
     auto* gl = static_cast<F_PuntisuColonna&>(*letto).Numeri();
     EXPECT_EQ(gl->Conta(), 5);
     EXPECT_TRUE(gl->Selezionato(33) && gl->Selezionato(45));
+
+    // Enter in the dialog's grid ends the pick as on the main panel: it confirms.
+    g->ImpostaNumero(2, true);
+    Clic(*e, "ChkPunti_1");
+    QTest::keyClick(g, Qt::Key_Return);
+    EXPECT_EQ(e->Tag(), "ooo");
+    EXPECT_EQ(e->result(), QDialog::Accepted);
 }
 
 TEST(EditoriCondizione, ValoriDiUnaClassePiuAltaIgnoratiConNota) {
