@@ -1,0 +1,388 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include <vector>
+
+#include "../control/Banco.h"
+#include "ClsOrdinaLv.h"
+#include "CollegaStrumenti.h"
+#include "ConfrontoColonna.h"
+#include "F_Spoglio.h"
+#include "Spoglio.h"
+#include "TestiGrigliaQt.h"
+
+namespace {
+
+QStringList Testi(const QTreeWidget* lista, int riga) {
+    QStringList t;
+    for (int c = 0; c < lista->columnCount(); ++c) t << lista->topLevelItem(riga)->text(c);
+    return t;
+}
+
+std::vector<QStringList> Righe(const QTreeWidget* lista) {
+    std::vector<QStringList> righe;
+    for (int r = 0; r < lista->topLevelItemCount(); ++r) righe.push_back(Testi(lista, r));
+    return righe;
+}
+
+QStringList Intestazioni(const QTreeWidget* lista) {
+    QStringList t;
+    for (int c = 0; c < lista->columnCount(); ++c) t << lista->headerItem()->text(c);
+    return t;
+}
+
+// What the user does: type the draw, pick the minimum, press the first button.
+void Controlla(F_Spoglio& f, const QString& estrazione, const QString& minimo = {}) {
+    f.Text1()->setText(estrazione);
+    if (!minimo.isEmpty()) f.CmbPuntiMin()->setCurrentText(minimo);
+    f.XPButton1(0)->click();
+}
+
+void ClicIntestazione(QTreeWidget* lista, int sezione) {
+    QHeaderView* h = lista->header();
+    const QPoint punto(h->sectionViewportPosition(sezione) + h->sectionSize(sezione) / 2, h->height() / 2);
+    QTest::mouseClick(h->viewport(), Qt::LeftButton, {}, punto);
+}
+
+std::vector<combi::Colonna> Colonne(const Banco& b) {
+    std::vector<combi::Colonna> c;
+    b.c.GetColonneSviluppo(c);
+    if (!c.empty()) c.erase(c.begin());
+    return c;
+}
+
+combi::Colonna Col(std::initializer_list<int> numeri) {
+    combi::Colonna c;
+    int pos = 1;
+    for (int n : numeri) c[pos++] = uint8_t(n);
+    return c;
+}
+
+QStringList Punti(const QTreeWidget* lista, int colonna) {
+    QStringList t;
+    for (int r = 0; r < lista->topLevelItemCount(); ++r) t << lista->topLevelItem(r)->text(colonna);
+    return t;
+}
+
+}  // namespace
+
+TEST(F_Spoglio, OpensWithItsPagesAndTheMinimumOfTheGame) {
+    Banco b;
+    F_Spoglio lotto(b.c, b.dialoghi);
+    EXPECT_EQ(lotto.windowTitle(), "Spoglio vincite");
+    QStringList voci;
+    for (int i = 0; i < lotto.CmbPuntiMin()->count(); ++i) voci << lotto.CmbPuntiMin()->itemText(i);
+    EXPECT_EQ(voci, (QStringList{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"}));
+    EXPECT_EQ(lotto.CmbPuntiMin()->currentText(), "2");
+    EXPECT_EQ(Intestazioni(lotto.ListView1()), (QStringList{"Colonna", "Numeri", "Punti"}));
+    EXPECT_EQ(Intestazioni(lotto.ListView2()),
+              (QStringList{"Condizione", "Punti", "Recupero", "Punti effettivi", "Esito"}));
+    EXPECT_EQ(Intestazioni(lotto.ListView3()), (QStringList{"Vincita", "Colonne"}));
+    QTabWidget* tab = lotto.TabStrip1();
+    ASSERT_EQ(tab->count(), 3);
+    EXPECT_EQ(tab->tabText(0), "Vincite");
+    EXPECT_EQ(tab->tabText(1), "Confronto condizioni");
+    EXPECT_EQ(tab->tabText(2), "Riepilogo");
+    lotto.show();
+    QTreeWidget* liste[3] = {lotto.ListView1(), lotto.ListView2(), lotto.ListView3()};
+    for (int scelta = 2; scelta >= 0; --scelta) {
+        tab->setCurrentIndex(scelta);
+        for (int i = 0; i < 3; ++i) EXPECT_EQ(liste[i]->isVisible(), i == scelta) << scelta << " " << i;
+    }
+    EXPECT_EQ(lotto.ColonnaOrdinamento(), 0);
+
+    for (int gioco : {1, 2, 3}) {
+        b.c.CmbTipoGioco()->setCurrentIndex(gioco);
+        F_Spoglio altro(b.c, b.dialoghi);
+        EXPECT_EQ(altro.CmbPuntiMin()->currentText(), "3") << gioco;
+    }
+    lotto.XPButton1(1)->click();
+    EXPECT_FALSE(lotto.isVisible());
+    EXPECT_TRUE(b.dialoghi.boxes.empty());
+}
+
+TEST(F_Spoglio, ChecksTheDevelopedColumnsAndSummarisesByPoints) {
+    Banco b;
+    b.NumeriDa1A(10);
+    b.c.setClasse(5);
+    b.c.GestSviluppo();
+    ASSERT_EQ(b.c.QuantitaColonne(), 252);
+    b.dialoghi.boxes.clear();
+    F_Spoglio f(b.c, b.dialoghi);
+
+    Controlla(f, "1,2,3,4,5", "2");
+    EXPECT_TRUE(b.dialoghi.boxes.empty());
+    // 5 of 1..10 sharing p numbers with 1..5: C(5, p) * C(5, 5 - p).
+    EXPECT_EQ(Righe(f.ListView3()), (std::vector<QStringList>{{"Vincite con 5 punti ", "1"},
+                                                              {"Vincite con 4 punti ", "25"},
+                                                              {"Vincite con 3 punti ", "100"},
+                                                              {"Vincite con 2 punti ", "100"}}));
+    const combi::EsitoSpoglio atteso = combi::VerificaVincite(Colonne(b), 5, "1,2,3,4,5", 2);
+    ASSERT_EQ(f.ListView1()->topLevelItemCount(), 226);
+    for (int r = 0; r < 226; ++r) {
+        const auto& v = atteso.vincite[size_t(r)];
+        ASSERT_EQ(Testi(f.ListView1(), r), (QStringList{QString::number(v.colonna),
+                                                         QString::fromStdString(v.numeri), QString::number(v.punti)}))
+            << r;
+    }
+    EXPECT_EQ(Testi(f.ListView1(), 0), (QStringList{"1", "01 02 03 04 05", "5"}));
+
+    // A number typed twice scores once; a higher minimum lists fewer rows.
+    Controlla(f, "1,1,2,2,3", "3");
+    EXPECT_EQ(Righe(f.ListView3()), (std::vector<QStringList>{{"Vincite con 5 punti ", "0"},
+                                                              {"Vincite con 4 punti ", "0"},
+                                                              {"Vincite con 3 punti ", "21"}}));
+    EXPECT_EQ(f.ListView1()->topLevelItemCount(), 21);
+}
+
+TEST(F_Spoglio, OnlyColumnsWithEnoughPointsAreListed) {
+    struct Caso {
+        const char* nome;
+        std::vector<combi::Colonna> colonne;
+        int classe;  // game index 0 Lotto (class 5), 3 SuperEnalotto (class 6)
+        QString estrazione, minimo;
+        std::vector<QStringList> vincite, riepilogo;
+    } casi[] = {
+        {"5,12,90 from two points",
+         {Col({5, 12, 30, 40, 50}), Col({1, 2, 3, 5, 90}), Col({5, 12, 20, 60, 90}), Col({12, 13, 14, 15, 16})},
+         0, "5,12,90", "2",
+         {{"1", "05 12 30 40 50", "2"}, {"2", "01 02 03 05 90", "2"}, {"3", "05 12 20 60 90", "3"}},
+         {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "1"},
+          {"Vincite con 2 punti ", "2"}}},
+        {"no kept columns", {}, 0, "1,2,3", "2", {},
+         {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "0"},
+          {"Vincite con 2 punti ", "0"}}},
+        {"class 6, minimum 3: every row down to 3 points",
+         {Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 7, 8, 9}), Col({1, 2, 10, 11, 12, 13})},
+         3, "1,2,3,4,5", "3",
+         {{"1", "01 02 03 04 05 06", "5"}, {"2", "01 02 03 07 08 09", "3"}},
+         {{"Vincite con 6 punti ", "0"}, {"Vincite con 5 punti ", "1"}, {"Vincite con 4 punti ", "0"},
+          {"Vincite con 3 punti ", "1"}}},
+    };
+    for (const Caso& caso : casi) {
+        Banco b;
+        b.c.CmbTipoGioco()->setCurrentIndex(caso.classe);
+        std::vector<combi::Colonna> colonne{combi::Colonna{}};
+        colonne.insert(colonne.end(), caso.colonne.begin(), caso.colonne.end());
+        b.c.ImpostaColonneSviluppo(colonne);
+        F_Spoglio f(b.c, b.dialoghi);
+        Controlla(f, caso.estrazione, caso.minimo);
+        EXPECT_EQ(Righe(f.ListView1()), caso.vincite) << caso.nome;
+        EXPECT_EQ(Righe(f.ListView3()), caso.riepilogo) << caso.nome;
+        EXPECT_TRUE(b.dialoghi.boxes.empty()) << caso.nome;
+    }
+}
+
+TEST(F_Spoglio, WrongDrawsAreRefusedAndTheListsKept) {
+    Banco b;
+    b.c.ImpostaColonneSviluppo({combi::Colonna{}, Col({1, 2, 3, 4, 5}), Col({6, 7, 8, 9, 10})});
+    F_Spoglio f(b.c, b.dialoghi);
+    Controlla(f, "1,2,6", "1");
+    const auto vincite = Righe(f.ListView1());
+    const auto confronto = Righe(f.ListView2());
+    const auto riepilogo = Righe(f.ListView3());
+    ASSERT_EQ(vincite.size(), 2u);
+
+    const QString venti = "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20";
+    const struct {
+        QString estrazione, messaggio;
+    } casi[] = {
+        {"0,5", "Inserire numeri da 1 a 90"},
+        {"5,91", "Inserire numeri da 1 a 90"},
+        {"5,,6", "Inserire numeri da 1 a 90"},
+        {"5,x", "Inserire numeri da 1 a 90"},
+        {"", "Inserire numeri da 1 a 90"},
+        {venti + ",21", "La colonna vincente deve contenere massimo 20 numeri"},
+        {venti + ",0", "La colonna vincente deve contenere massimo 20 numeri"},
+    };
+    for (const auto& caso : casi) {
+        b.dialoghi.boxes.clear();
+        Controlla(f, caso.estrazione);
+        ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << caso.estrazione.toStdString();
+        EXPECT_EQ(b.dialoghi.boxes[0].tipo, "esclamazione");
+        EXPECT_EQ(b.dialoghi.boxes[0].testo, caso.messaggio);
+        EXPECT_EQ(Righe(f.ListView1()), vincite);
+        EXPECT_EQ(Righe(f.ListView2()), confronto);
+        EXPECT_EQ(Righe(f.ListView3()), riepilogo);
+    }
+    b.dialoghi.boxes.clear();
+    Controlla(f, venti);
+    EXPECT_TRUE(b.dialoghi.boxes.empty()) << "twenty numbers are accepted";
+    EXPECT_EQ(Righe(f.ListView3()), (std::vector<QStringList>{{"Vincite con 5 punti ", "2"},
+                                                              {"Vincite con 4 punti ", "0"},
+                                                              {"Vincite con 3 punti ", "0"},
+                                                              {"Vincite con 2 punti ", "0"},
+                                                              {"Vincite con 1 punti ", "0"}}));
+}
+
+TEST(F_Spoglio, AFailingCheckIsReportedAsCritical) {
+    Banco b;
+    b.c.ImpostaColonneSviluppo({combi::Colonna{}, Col({1, 2, 3, 4, 5})});
+    F_Spoglio f(b.c, b.dialoghi);
+    Controlla(f, "1,2", "1");
+    const auto riepilogo = Righe(f.ListView3());
+    ASSERT_EQ(riepilogo.size(), 5u);
+    b.c.CmbClasse()->setCurrentIndex(-1);  // no class to check with
+    b.dialoghi.boxes.clear();
+    Controlla(f, "1,2");
+    ASSERT_EQ(b.dialoghi.boxes.size(), 1u);
+    EXPECT_EQ(b.dialoghi.boxes[0].tipo, "critico");
+    EXPECT_EQ(b.dialoghi.boxes[0].titolo, "F_Spoglio.VerificaVincite");
+    EXPECT_TRUE(b.dialoghi.boxes[0].testo.startsWith("5- ")) << b.dialoghi.boxes[0].testo.toStdString();
+    EXPECT_EQ(f.ListView1()->topLevelItemCount(), 0);
+    EXPECT_EQ(Righe(f.ListView3()), riepilogo) << "the summary keeps the last good check";
+}
+
+TEST(F_Spoglio, ConditionsOfTheGridAgainstTheDrawnNumbers) {
+    Banco b;
+    b.Condizione(1, "Punti Col.", "10-20-30", "2");
+    b.Condizione(2, "LinkOpen");
+    b.Condizione(3, "Consecutivi", "C", "0", "1");  // fails, recoverable without a panel
+    b.Condizione(4, "Consecutivi", "C", "0");      // fails
+    b.Condizione(5, "LinkClose", "L", "1");
+    F_Spoglio f(b.c, b.dialoghi);
+    const QString estrazione = "40,10,20,21,70";  // out of order: checked as typed
+    Controlla(f, estrazione);
+    ASSERT_TRUE(b.dialoghi.boxes.empty()) << b.dialoghi.Ultimo()->testo.toStdString();
+
+    const combi::Confronto atteso = combi::ConfrontaCondizioniSuColonna(
+        combi::EstrazioneComeColonna(estrazione.toStdString()),
+        LeggiTestiGriglia(*b.c.GetGridCond(), *b.c.GetLbQuadroRec()));
+    QTreeWidget* lista = f.ListView2();
+    ASSERT_EQ(lista->topLevelItemCount(), 5);
+    ASSERT_EQ(atteso.righe.size(), 5u);
+    const char* nomi[5] = {"Punti Col.", "LinkOpen", "Consecutivi", "Consecutivi", "LinkClose"};
+    const QColor verde(0, 255, 0), giallo(255, 255, 0), rosso(255, 0, 0);
+    const struct {
+        QString valore, esito;
+        QColor colore;
+    } esiti[5] = {{"2", "Si", verde}, {}, {"1", "Si", giallo}, {"1", "No", rosso}, {}};
+    for (int r = 0; r < 5; ++r) {
+        const auto& riga = atteso.righe[size_t(r)];
+        const QStringList testi = Testi(lista, r);
+        EXPECT_EQ(testi[0], QString::fromStdString(riga.colonne[0] + " - " + riga.colonne[1])) << r;
+        EXPECT_TRUE(testi[0].endsWith(nomi[r])) << testi[0].toStdString();
+        for (size_t c = 2; c < riga.colonne.size(); ++c)
+            EXPECT_EQ(testi[int(c) - 1], QString::fromStdString(riga.colonne[c])) << r << " " << c;
+        EXPECT_EQ(testi[3], esiti[r].valore) << r;
+        EXPECT_EQ(testi[4], esiti[r].esito) << r;
+        if (esiti[r].colore.isValid()) {
+            EXPECT_EQ(lista->topLevelItem(r)->foreground(3).color(), esiti[r].colore) << r;
+        }
+    }
+    EXPECT_EQ(Testi(lista, 0)[1], "2");
+
+    // The same numbers in another order are not sorted first: 21 right
+    // after 20 no longer makes a consecutive pair.
+    Controlla(f, "70,21,20,10,40");
+    EXPECT_EQ(Testi(lista, 2)[3], "0");
+    EXPECT_EQ(Testi(lista, 2)[4], "Si");
+}
+
+TEST(F_Spoglio, HeaderClicksSortAndANewCheckKeepsTheOrder) {
+    Banco b;
+    b.NumeriDa1A(10);
+    b.c.setClasse(5);
+    b.c.GestSviluppo();
+    F_Spoglio f(b.c, b.dialoghi);
+    f.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&f));
+    Controlla(f, "1,2,3,4,5", "3");
+    QTreeWidget* lista = f.ListView1();
+    const int righe = lista->topLevelItemCount();
+    ASSERT_EQ(righe, 126);
+
+    auto nonCrescente = [&](int colonna) {
+        for (int r = 1; r < lista->topLevelItemCount(); ++r)
+            if (lista->topLevelItem(r)->text(colonna).toInt() > lista->topLevelItem(r - 1)->text(colonna).toInt())
+                return false;
+        return true;
+    };
+    ClicIntestazione(lista, 2);  // "Punti"
+    EXPECT_EQ(f.ColonnaOrdinamento(), 3);
+    EXPECT_EQ(f.OrdineOrdinamento(), 1);
+    EXPECT_TRUE(nonCrescente(2));
+    EXPECT_EQ(Testi(lista, 0), (QStringList{"1", "01 02 03 04 05", "5"}));
+    EXPECT_EQ(IconaIntestazione(*lista, 3), 2);
+    EXPECT_EQ(IconaIntestazione(*lista, 1), 0);
+
+    ClicIntestazione(lista, 2);
+    EXPECT_EQ(f.OrdineOrdinamento(), 0);
+    EXPECT_EQ(IconaIntestazione(*lista, 3), 1);
+    EXPECT_EQ(lista->topLevelItem(righe - 1)->text(2), "5");
+
+    // A new check comes out sorted the same way.
+    Controlla(f, "6,7,8,9,10");
+    ASSERT_EQ(lista->topLevelItemCount(), 126);
+    EXPECT_EQ(Testi(lista, 125), (QStringList{"252", "06 07 08 09 10", "5"}));
+    for (int r = 1; r < 126; ++r)
+        ASSERT_LE(lista->topLevelItem(r - 1)->text(2).toInt(), lista->topLevelItem(r)->text(2).toInt()) << r;
+    EXPECT_EQ(IconaIntestazione(*lista, 3), 1);
+
+    // "Colonna" by value (252 above 99), "Numeri" as text.
+    ClicIntestazione(lista, 0);
+    EXPECT_EQ(f.ColonnaOrdinamento(), 1);
+    EXPECT_EQ(f.OrdineOrdinamento(), 1);
+    EXPECT_TRUE(nonCrescente(0));
+    EXPECT_EQ(lista->topLevelItem(0)->text(0), "252");
+    EXPECT_EQ(IconaIntestazione(*lista, 3), 0);
+    EXPECT_EQ(IconaIntestazione(*lista, 1), 2);
+    ClicIntestazione(lista, 1);
+    const QStringList numeri = Punti(lista, 1);
+    for (int r = 1; r < numeri.size(); ++r) ASSERT_GE(numeri[r - 1], numeri[r]) << r;
+    EXPECT_EQ(numeri.front(), "06 07 08 09 10");
+}
+
+TEST(F_Spoglio, TheToolbarCommandOpensTheDialog) {
+    Banco b;
+    CollegaStrumenti(b.c, b.dialoghi);
+    QString titolo;
+    bool modale = false;
+    QTimer::singleShot(0, [&] {
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            if (w->objectName() == "F_Spoglio" && w->isVisible()) {
+                titolo = w->windowTitle();
+                modale = w->isModal();
+                w->close();
+            }
+        }
+    });
+    b.c.EseguiComando("ConfrontoCondSuCol");
+    EXPECT_EQ(titolo, "Spoglio vincite");
+    EXPECT_TRUE(modale);
+    EXPECT_TRUE(b.dialoghi.boxes.empty());
+}
+
+TEST(Screenshot, Spoglio) {
+    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
+    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
+    QDir().mkpath(cartella);
+    Banco b;
+    b.NumeriDa1A(14);
+    b.c.setClasse(5);
+    b.Condizione(1, "Punti Col.", "01-02-03-04-\r\n05", "1-2-3");
+    b.Condizione(2, "Consecutivi", "C", "0-1", "2");
+    b.Condizione(3, "Consecutivi", "C", "0");
+    b.c.GestSviluppo();
+    F_Spoglio f(b.c, b.dialoghi);
+    f.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&f));
+    Controlla(f, "2,3,4,11,40", "2");
+    ClicIntestazione(f.ListView1(), 2);
+    const char* nomi[3] = {"spoglio-vincite", "spoglio-confronto", "spoglio-riepilogo"};
+    for (int pagina = 0; pagina < 3; ++pagina) {
+        f.TabStrip1()->setCurrentIndex(pagina);
+        QTest::qWait(200);
+        EXPECT_TRUE(f.grab().save(cartella + "/" + nomi[pagina] + ".png"));
+    }
+}
