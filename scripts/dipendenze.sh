@@ -1,7 +1,10 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the project builds with (run as root).
 set -euo pipefail
-pacchetti=(cmake ninja-build g++ qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev)
+# Open MPI: the development across machines (combifiltro-cli sviluppa --mpi),
+# built whenever it is installed.
+pacchetti=(cmake ninja-build g++ qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev
+           libopenmpi-dev openmpi-bin)
 mancanti=()
 for p in "${pacchetti[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || mancanti+=("$p")

@@ -10,5 +10,6 @@ export QT_QPA_PLATFORM=offscreen
 ctest --test-dir build --output-on-failure -j2
 
 cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCF_SANITIZE=ON -DCF_GUI=OFF -DCF_BENCH=OFF
-cmake --build build-asan --target engine_tests cli_tests
+# combifiltro-cli too: the MPI test (when MPI is installed) runs the program.
+cmake --build build-asan --target engine_tests cli_tests combifiltro-cli
 ctest --test-dir build-asan --output-on-failure -j2
