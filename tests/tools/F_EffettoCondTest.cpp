@@ -1,0 +1,130 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QListWidget>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "../control/Banco.h"
+#include "CollegaStrumenti.h"
+#include "F_EffettoCond.h"
+#include "GrigliaCondizioni.h"
+
+namespace {
+
+// 10 numbers in class 5 (252 integral columns) under a link group.
+void SviluppaSistemaDiProva(Banco& b) {
+    b.c.setClasse(5);
+    b.NumeriDa1A(10);
+    b.Condizione(1, "Consecutivi", "C", "0");
+    b.Condizione(2, "LinkOpen");
+    b.Condizione(3, "Punti Col.", "01", "1", "0", "1");
+    b.Condizione(4, "Ampiezza", "A", "5-7");
+    b.Condizione(5, "LinkClose", "L", "1-2");
+    b.c.GetLbQuadroRec()->addItem("1,1,-1");
+    b.c.GestSviluppo();
+}
+
+QStringList Testi(const QTreeWidgetItem* riga) {
+    QStringList t;
+    for (int c = 0; c < riga->columnCount(); ++c) t << riga->text(c);
+    return t;
+}
+
+void Clicca(QTreeWidget* lista, QTreeWidgetItem* voce) {
+    lista->scrollToItem(voce);
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualItemRect(voce).center());
+}
+
+TEST(F_EffettoCond, CountsAndSharesOfTheLastDevelopment) {
+    Banco b;
+    SviluppaSistemaDiProva(b);
+    ASSERT_GT(b.c.QuantitaColonne(), 0);
+    F_EffettoCond effetto(b.c);
+    EXPECT_EQ(effetto.windowTitle(), "Effetto condizioni");
+    QTreeWidget* lista = effetto.ListView1();
+    ASSERT_EQ(lista->columnCount(), 8);
+    const QStringList intestazioni = Testi(lista->headerItem());
+    EXPECT_EQ(intestazioni,
+              QStringList({"Id", "Condizione", "Superate", "%", "Scartate", "%", "Recuperate", "%"}));
+    ASSERT_EQ(lista->topLevelItemCount(), 5);
+
+    // Known counts: 6 columns of 1..10 have no neighbours; 126 hold the 1,
+    // and the other 126 (value 0) are recoverable.
+    EXPECT_EQ(Testi(lista->topLevelItem(0)), QStringList({"1", "Consecutivi", "6", "2", "246", "97", "0", "0"}));
+    EXPECT_EQ(Testi(lista->topLevelItem(1)), QStringList({"2", "LinkOpen", "", "", "", "", "", ""}));
+    EXPECT_EQ(Testi(lista->topLevelItem(2)),
+              QStringList({"3", "Punti Col.", "126", "50", "126", "50", "126", "50"}));
+    EXPECT_EQ(Testi(lista->topLevelItem(4)), QStringList({"5", "LinkClose", "", "", "", "", "", ""}));
+
+    // Every condition is measured on every column: the row follows the table.
+    const combi::Condizione& ampiezza = b.c.CondizioniUltimoSviluppo().at(3);
+    EXPECT_EQ(ampiezza.ContaSuperate + ampiezza.ContaFallite, 252);
+    const QTreeWidgetItem* riga = lista->topLevelItem(3);
+    EXPECT_EQ(riga->text(1), "Ampiezza");
+    EXPECT_EQ(Cifre(riga->text(2)).toInt(), ampiezza.ContaSuperate);
+    EXPECT_EQ(riga->text(3).toInt(), ampiezza.ContaSuperate * 100 / 252);
+    EXPECT_EQ(Cifre(riga->text(4)).toInt(), ampiezza.ContaFallite);
+    EXPECT_EQ(riga->text(5).toInt(), ampiezza.ContaFallite * 100 / 252);
+    EXPECT_EQ(Cifre(riga->text(6)).toInt(), ampiezza.ContaRecuperabili);
+
+    // Shares are of the integral system as it is now: with 7 numbers left
+    // (21 columns) the counts of the 252 exceed it and stop at 100.
+    for (int n = 8; n <= 10; ++n) b.c.SelezionaNumero(int16_t(n), false);
+    effetto.Carica();
+    ASSERT_EQ(lista->topLevelItemCount(), 5);
+    EXPECT_EQ(Testi(lista->topLevelItem(0)), QStringList({"1", "Consecutivi", "6", "28", "246", "100", "0", "0"}));
+}
+
+TEST(F_EffettoCond, RowClickBringsTheConditionIntoView) {
+    Banco b;
+    SviluppaSistemaDiProva(b);
+    F_EffettoCond effetto(b.c);
+    effetto.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&effetto));
+    b.c.SetColonnaGrid(1);
+    Clicca(effetto.ListView1(), effetto.ListView1()->topLevelItem(3));
+    EXPECT_EQ(b.c.GetGridCond()->ColonnaCorrente(), 4);
+    EXPECT_TRUE(effetto.isVisible()) << "the dialog stays open";
+    Clicca(effetto.ListView1(), effetto.ListView1()->topLevelItem(1));
+    EXPECT_EQ(b.c.GetGridCond()->ColonnaCorrente(), 2);
+}
+
+TEST(F_EffettoCond, ToolbarOpensItModally) {
+    Banco b;
+    CollegaStrumenti(b.c, b.dialoghi);
+    SviluppaSistemaDiProva(b);
+    const size_t boxPrima = b.dialoghi.boxes.size();
+    QString titolo;
+    int righe = -1;
+    bool modale = false;
+    QTimer::singleShot(0, [&] {
+        auto* effetto = qobject_cast<F_EffettoCond*>(QApplication::activeModalWidget());
+        if (effetto == nullptr) return;
+        titolo = effetto->windowTitle();
+        righe = effetto->ListView1()->topLevelItemCount();
+        modale = effetto->isModal();
+        effetto->reject();
+    });
+    b.c.EseguiComando("EffettoCondizioni");
+    EXPECT_EQ(titolo, "Effetto condizioni");
+    EXPECT_EQ(righe, 5);
+    EXPECT_TRUE(modale);
+    EXPECT_EQ(b.dialoghi.boxes.size(), boxPrima) << "no message along the way";
+}
+
+TEST(Screenshot, EffettoCondizioni) {
+    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
+    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
+    QDir().mkpath(cartella);
+    Banco b;
+    SviluppaSistemaDiProva(b);
+    F_EffettoCond effetto(b.c);
+    effetto.show();
+    QTest::qWait(200);
+    EXPECT_TRUE(effetto.grab().save(cartella + "/effetto-condizioni.png"));
+}
+
+}  // namespace
