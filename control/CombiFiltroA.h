@@ -107,7 +107,8 @@ public:
     // Flags of the host, kept and never read; num outside 1..90 throws
     // combi::Errore 9.
     void SetNum(int16_t num, bool v);
-    // Before the host drops the control: clears the registry.
+    // Before the host drops the control: clears the registry and unloads the
+    // system navigator (the handler registered as "ChiudiNavigatore").
     void Deinit();
 
     int32_t CalcolaBaricentro(int16_t nClasse, const combi::Colonna& col) const;

@@ -1,11 +1,46 @@
 #include "CollegaStrumenti.h"
 
+#include <memory>
+
 #include "CombiFiltroA.h"
+#include "F_EffettoCond.h"
+#include "NavigatoreControllo.h"
+#include "SegnalazioneErrori.h"
+#include "F_Riduzione.h"
+#include "F_VisualizzaColonne.h"
+#include "F_Spoglio.h"
 
 void CollegaStrumenti(CombiFiltroA& controllo, ServizioDialoghi& dialoghi) {
     CombiFiltroA* ctl = &controllo;
     ServizioDialoghi* servizio = &dialoghi;
     // One registration per tool window.
+    controllo.RegistraComando("ConfrontoCondSuCol", [ctl, servizio] {
+        F_Spoglio spoglio(*ctl, *servizio, ctl);
+        spoglio.exec();
+    });
+    // The reduction window is the view of the control's reductions only
+    // while it is open: a reduction the host starts directly runs unseen.
+    controllo.RegistraComando("Riduzione", [ctl, servizio] {
+        F_Riduzione riduzione(*ctl, *servizio, ctl);
+        riduzione.exec();
+    });
+    controllo.RegistraComando("VisualizzaColonne", [ctl] {
+        F_VisualizzaColonne colonne(*ctl, ctl);
+        colonne.exec();
+    });
+    controllo.RegistraComando("EffettoCondizioni", [ctl, servizio] {
+        EseguiProtetta(*servizio, "F_EffettoCond.Form_Load", [ctl] {
+            F_EffettoCond effetto(*ctl, ctl);
+            effetto.exec();
+        });
+    });
+    // The navigator outlives a command: the three handlers share its owner.
+    auto navigatore = std::make_shared<NavigatoreControllo>(controllo);
+    controllo.RegistraComando("Naviga", [navigatore, servizio] {
+        EseguiProtetta(*servizio, "F_NavigaSistema.Form_Load", [&] { navigatore->Mostra(); });
+    });
+    controllo.RegistraComando("AggiornaNavigatore", [navigatore] { navigatore->Aggiorna(); });
+    controllo.RegistraComando("ChiudiNavigatore", [navigatore] { navigatore->Chiudi(); });
     (void)ctl;
     (void)servizio;
 }

@@ -1,0 +1,358 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <algorithm>
+#include <functional>
+#include <numeric>
+#include <random>
+
+#include "../control/Banco.h"
+#include "CollegaStrumenti.h"
+#include "F_Riduzione.h"
+#include "FileColonne.h"
+#include "Riduzione.h"
+#include "UtilitaSchermo.h"
+
+namespace {
+
+using combi::Colonna;
+
+// Six different numbers out of 1..`numeri`, ascending, with a few exact
+// copies so that every guarantee drops something.
+std::vector<Colonna> ColonneCasuali(uint32_t seme, size_t quante, int numeri, int classe = 6) {
+    std::mt19937 rng(seme);
+    std::vector<int> urna(static_cast<size_t>(numeri));
+    std::iota(urna.begin(), urna.end(), 1);
+    std::vector<Colonna> v;
+    while (v.size() < quante) {
+        if (!v.empty() && rng() % 8 == 0) {
+            v.push_back(v[rng() % v.size()]);
+            continue;
+        }
+        std::shuffle(urna.begin(), urna.end(), rng);
+        std::sort(urna.begin(), urna.begin() + classe);
+        Colonna c;
+        for (int p = 1; p <= classe; ++p) c[p] = static_cast<uint8_t>(urna[static_cast<size_t>(p) - 1]);
+        v.push_back(c);
+    }
+    return v;
+}
+
+// The engine on its own, with a stop seen from the k-th message pump on
+// (0: never). Counts the pumps of the run.
+class Fermata : public combi::OsservatoreRiduzione {
+public:
+    explicit Fermata(int alPasso = 0) : alPasso_(alPasso) {}
+    void ElaboraMessaggi() override { ++pompe; }
+    bool RichiestaStop() override { return alPasso_ > 0 && pompe >= alPasso_; }
+    int pompe = 0;
+
+private:
+    int alPasso_;
+};
+
+// What the control must hold after the run: element 0 empty, then the columns left.
+std::vector<Colonna> Attese(const std::vector<Colonna>& colonne, int punti, int stopAlPasso = 0) {
+    Fermata fermata(stopAlPasso);
+    std::vector<Colonna> v = combi::RiduciColonne(colonne, punti, fermata).colonne;
+    v.insert(v.begin(), Colonna{});
+    return v;
+}
+
+std::vector<Colonna> Tenute(const CombiFiltroA& c) {
+    std::vector<Colonna> v;
+    c.GetColonneSviluppo(v);
+    return v;
+}
+
+// A control with scripted dialogs, a reduction window on it and a folder
+// for the columns files.
+struct BancoRiduzione {
+    Banco b;
+    QTemporaryDir cartella;
+    F_Riduzione f{b.c, b.dialoghi};
+
+    QString Scrivi(const QString& nome, const std::vector<Colonna>& colonne) {
+        const QString percorso = cartella.filePath(nome);
+        combi::ScriviFileColonne(percorso.toStdString(), colonne);
+        return percorso;
+    }
+    void Scegli(const QString& percorso) {
+        b.dialoghi.fileScelti.push_back(percorso);
+        f.Command1()->click();
+    }
+    void Garanzia(int indice) { f.cmbRiduzione()->setCurrentIndex(indice); }
+    void Avvia() { f.XPButton1(0)->click(); }
+};
+
+// Runs `azione` during the reduction's message pumps: `volte` counts the
+// pumps seen while the window is busy; the action runs at the first one.
+struct DuranteLaRiduzione {
+    DuranteLaRiduzione(const F_Riduzione& f, std::function<void()> azione) {
+        timer.setInterval(0);
+        QObject::connect(&timer, &QTimer::timeout, [this, &f, azione = std::move(azione)] {
+            if (!f.Occupato()) return;
+            if (volte++ == 0) azione();
+        });
+        timer.start();
+    }
+    QTimer timer;
+    int volte = 0;
+};
+
+TEST(F_Riduzione, OpensWithThreeGuaranteesAndReadsTheChosenFile) {
+    BancoRiduzione r;
+    EXPECT_EQ(r.f.windowTitle(), "Riduzione colonne");
+    QComboBox* cmb = r.f.cmbRiduzione();
+    ASSERT_EQ(cmb->count(), 3);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(cmb->itemText(i), QString("6 - %1").arg(i + 1));
+        EXPECT_EQ(cmb->itemData(i).toInt(), i + 1);
+    }
+    EXPECT_EQ(cmb->currentIndex(), 0);
+    EXPECT_TRUE(r.f.XPButton1(0)->isEnabled());
+
+    // Cancelled: nothing shown. The dialog starts in the program's folder.
+    r.f.Command1()->click();
+    ASSERT_EQ(r.b.dialoghi.dialoghiFile.size(), 1u);
+    const DialogoFile& d = r.b.dialoghi.dialoghiFile[0];
+    EXPECT_EQ(d.titolo, "Apri file");
+    EXPECT_EQ(d.filtro, "File colonne (*.col)|*.col");
+    EXPECT_EQ(d.nome, "*.col");
+    EXPECT_EQ(d.estensione, ".col");
+    EXPECT_EQ(QDir(d.cartella), QDir(CartellaProgramma()));
+    EXPECT_TRUE(r.f.labFile()->text().isEmpty());
+
+    const QString file = r.Scrivi("Sette.col", ColonneCasuali(1, 7, 20));
+    r.Scegli(file);
+    EXPECT_EQ(r.f.labFile()->text(), file);
+    EXPECT_EQ(r.f.LabColonne()->text(), "7");
+
+    // A file cut inside a record shows the fraction, as its length says.
+    QFile troncato(r.cartella.filePath("Troncato.col"));
+    ASSERT_TRUE(troncato.open(QIODevice::WriteOnly));
+    troncato.write(QByteArray(50, '\1'));
+    troncato.close();
+    r.Scegli(troncato.fileName());
+    EXPECT_EQ(r.f.LabColonne()->text(), "2.5");
+
+    // A name that vanished before the dialog returned keeps the previous file.
+    r.Scegli(r.cartella.filePath("Sparito.col"));
+    EXPECT_EQ(r.f.labFile()->text(), troncato.fileName());
+    EXPECT_TRUE(r.b.dialoghi.boxes.empty());
+}
+
+TEST(F_Riduzione, KeepsTheEngineColumnsForEachGuarantee) {
+    BancoRiduzione r;
+    const std::vector<Colonna> colonne = ColonneCasuali(7, 400, 14);
+    r.Scegli(r.Scrivi("Quattrocento.col", colonne));
+    r.f.show();
+    size_t precedenti = colonne.size() + 1;
+    for (int indice : {0, 1, 2}) {
+        SCOPED_TRACE(indice);
+        const int punti = 5 - indice;
+        r.b.c.ImpostaColonneSviluppo({});
+        r.f.LabColonneRid()->setText("vecchio");
+        r.Garanzia((indice + 1) % 3);
+        r.Garanzia(indice);
+        EXPECT_TRUE(r.f.LabColonneRid()->text().isEmpty()) << "a new guarantee clears the old result";
+        ASSERT_TRUE(r.f.XPButton1(0)->isEnabled());
+
+        QString fase, ridotte = "non letto";
+        bool abilitati = true;
+        DuranteLaRiduzione durante(r.f, [&] {
+            fase = r.f.LabInfo()->text();
+            ridotte = r.f.LabColonneRid()->text();
+            abilitati = r.f.XPButton1(0)->isEnabled() || r.f.cmbRiduzione()->isEnabled() ||
+                        r.f.Command1()->isEnabled();
+        });
+        r.Avvia();
+
+        const std::vector<Colonna> attese = Attese(colonne, punti);
+        EXPECT_EQ(Tenute(r.b.c), attese);
+        EXPECT_LT(attese.size(), precedenti) << "fewer shared numbers, fewer columns";
+        precedenti = attese.size();
+        EXPECT_EQ(r.f.LabColonneRid()->text(), QString::number(attese.size() - 1));
+        EXPECT_EQ(fase, combi::kFaseAnalisi);
+        EXPECT_TRUE(ridotte.isEmpty());
+        EXPECT_FALSE(abilitati) << "start, guarantee and file locked during the run";
+        EXPECT_TRUE(r.f.LabInfo()->text().isEmpty());
+        EXPECT_EQ(r.f.PanPerc()->value(), 0);
+        EXPECT_FALSE(r.f.XPButton1(0)->isEnabled()) << "start waits for another guarantee";
+        EXPECT_TRUE(r.f.cmbRiduzione()->isEnabled());
+        EXPECT_TRUE(r.f.Command1()->isEnabled());
+        EXPECT_TRUE(r.b.c.Pulsante("VisualizzaColonne")->isEnabled());
+        EXPECT_TRUE(r.f.isVisible());
+    }
+    EXPECT_TRUE(r.b.dialoghi.boxes.empty());
+}
+
+TEST(F_Riduzione, StopIsAskedAndClosesTheWindowOnlyOnYes) {
+    const std::vector<Colonna> colonne = ColonneCasuali(11, 300, 13);
+    for (const bool si : {false, true}) {
+        SCOPED_TRACE(si ? "Sì" : "No");
+        BancoRiduzione r;
+        r.Scegli(r.Scrivi("Trecento.col", colonne));
+        r.Garanzia(2);  // "6 - 3": three shared numbers
+        r.f.show();
+        r.b.dialoghi.risposte.push_back(si);
+        bool apertaDopoChiusura = false;
+        DuranteLaRiduzione durante(r.f, [&] {
+            r.f.close();
+            r.f.reject();
+            apertaDopoChiusura = r.f.isVisible();
+            r.f.XPButton1(1)->click();
+        });
+        r.Avvia();
+
+        EXPECT_TRUE(apertaDopoChiusura) << "the window refuses to close while busy";
+        ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
+        EXPECT_EQ(r.b.dialoghi.boxes[0].tipo, "domanda");
+        EXPECT_EQ(r.b.dialoghi.boxes[0].testo, "Interrompere il processo di riduzione ? ");
+        // The stop is seen right after the pump in which it was confirmed.
+        EXPECT_EQ(Tenute(r.b.c), si ? Attese(colonne, 3, 1) : Attese(colonne, 3));
+        EXPECT_NE(Attese(colonne, 3, 1), Attese(colonne, 3));
+        EXPECT_EQ(r.f.isVisible(), !si);
+        EXPECT_EQ(r.f.LabColonneRid()->text(), QString::number(r.b.c.QuantitaColonne()));
+        EXPECT_EQ(r.b.c.RichiestaStopRiduzione(), si);
+    }
+}
+
+TEST(F_Riduzione, IdleCloseButtonClosesWithoutAsking) {
+    BancoRiduzione r;
+    r.f.show();
+    r.f.XPButton1(1)->click();
+    EXPECT_FALSE(r.f.isVisible());
+    EXPECT_TRUE(r.b.dialoghi.boxes.empty());
+}
+
+TEST(F_Riduzione, ReportsMissingEmptyAndBadFilesAndKeepsTheColumns) {
+    BancoRiduzione r;
+    std::vector<Colonna> sviluppate(3);
+    sviluppate[1][1] = 1, sviluppate[2][1] = 2;
+    r.b.c.ImpostaColonneSviluppo(sviluppate);
+
+    std::vector<Colonna> classe5 = ColonneCasuali(3, 4, 30, 5);
+    std::vector<Colonna> doppione = ColonneCasuali(3, 4, 30);
+    doppione[2][4] = doppione[2][3];  // a number twice in the first six
+    struct Caso {
+        const char* nome;
+        QString file;
+        QString tipo, titolo, testo;
+    };
+    const Caso casi[] = {
+        {"nessun file scelto", QString(), "critico", QString(), "Il file delle colonne non esiste"},
+        {"vuoto", r.Scrivi("Vuoto.col", {}), "esclamazione", QString(),
+         "Il file delle colonne non contiene colonne"},
+        {"classe 5", r.Scrivi("Cinque.col", classe5), "critico", "CombiFiltro.RiduciColonne",
+         "321- La colonna 1 non ha sei numeri diversi da 1 a 90 nelle prime sei posizioni"},
+        {"numero ripetuto", r.Scrivi("Doppio.col", doppione), "critico", "CombiFiltro.RiduciColonne",
+         "321- La colonna 3 non ha sei numeri diversi da 1 a 90 nelle prime sei posizioni"},
+    };
+    for (const Caso& c : casi) {
+        SCOPED_TRACE(c.nome);
+        r.b.dialoghi.boxes.clear();
+        if (!c.file.isEmpty()) r.Scegli(c.file);
+        r.Garanzia(1), r.Garanzia(0);
+        r.Avvia();
+        ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
+        EXPECT_EQ(r.b.dialoghi.boxes[0].tipo, c.tipo);
+        EXPECT_EQ(r.b.dialoghi.boxes[0].titolo, c.titolo);
+        EXPECT_EQ(r.b.dialoghi.boxes[0].testo, c.testo);
+        EXPECT_EQ(Tenute(r.b.c), sviluppate);
+        EXPECT_EQ(r.f.LabColonneRid()->text(), "2") << "the control's columns, unchanged";
+        EXPECT_FALSE(r.f.Occupato());
+        EXPECT_TRUE(r.f.cmbRiduzione()->isEnabled());
+    }
+}
+
+TEST(RiduciColonne, HostCallsRunWithOrWithoutTheWindow) {
+    Banco b;
+    QTemporaryDir cartella;
+    const std::vector<Colonna> colonne = ColonneCasuali(5, 250, 12);
+    const QString file = cartella.filePath("Host.col");
+    combi::ScriviFileColonne(file.toStdString(), colonne);
+
+    // An earlier stop request does not reach a new run; no window: unseen.
+    b.c.StopRiduciColonne();
+    b.c.RiduciColonne(file, 4);
+    EXPECT_EQ(Tenute(b.c), Attese(colonne, 4));
+    EXPECT_FALSE(b.c.RichiestaStopRiduzione());
+
+    // While a window is open the run reports into it, even started by the host.
+    {
+        F_Riduzione f(b.c, b.dialoghi);
+        QString fase;
+        int percento = -1;
+        QTimer spia;
+        spia.setInterval(0);
+        QObject::connect(&spia, &QTimer::timeout, [&] {
+            if (fase.isEmpty()) fase = f.LabInfo()->text();
+        });
+        spia.start();
+        QObject::connect(f.PanPerc(), &QProgressBar::valueChanged,
+                         [&](int valore) { percento = std::max(percento, valore); });
+        b.c.RiduciColonne(file, 5);
+        EXPECT_EQ(fase, combi::kFaseAnalisi);
+        EXPECT_EQ(percento, 100);
+        EXPECT_TRUE(f.LabInfo()->text().isEmpty());
+        EXPECT_EQ(Tenute(b.c), Attese(colonne, 5));
+    }
+    // The window is gone: its registration shows nothing and harms nothing.
+    b.c.RiduciColonne(file, 3);
+    EXPECT_EQ(Tenute(b.c), Attese(colonne, 3));
+    EXPECT_TRUE(b.dialoghi.boxes.empty());
+}
+
+TEST(CollegaStrumenti, RiduzioneOpensTheWindowAndRefreshesTheColumnCommands) {
+    Banco b;
+    CollegaStrumenti(b.c, b.dialoghi);
+    QTemporaryDir cartella;
+    const std::vector<Colonna> colonne = ColonneCasuali(9, 60, 10);
+    const QString file = cartella.filePath("Barra.col");
+    combi::ScriviFileColonne(file.toStdString(), colonne);
+    ASSERT_FALSE(b.c.Pulsante("VisualizzaColonne")->isEnabled());
+
+    QString titolo;
+    QTimer::singleShot(0, [&] {
+        auto* f = qobject_cast<F_Riduzione*>(QApplication::activeModalWidget());
+        if (f == nullptr) return;
+        titolo = f->windowTitle();
+        b.dialoghi.fileScelti.push_back(file);
+        f->Command1()->click();
+        f->XPButton1(0)->click();
+        f->XPButton1(1)->click();
+    });
+    b.c.EseguiComando("Riduzione");
+    EXPECT_EQ(titolo, "Riduzione colonne");
+    EXPECT_EQ(Tenute(b.c), Attese(colonne, 5));
+    EXPECT_TRUE(b.c.Pulsante("VisualizzaColonne")->isEnabled());
+}
+
+// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// it saves a picture of the window after a reduction.
+TEST(Screenshot, Riduzione) {
+    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
+    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
+    QDir().mkpath(cartella);
+    BancoRiduzione r;
+    r.Scegli(r.Scrivi("Esempio.col", ColonneCasuali(2026, 5000, 24)));
+    r.Garanzia(1);
+    r.f.show();
+    r.Avvia();
+    QTest::qWait(200);
+    EXPECT_TRUE(r.f.grab().save(cartella + "/riduzione.png"));
+}
+
+}  // namespace

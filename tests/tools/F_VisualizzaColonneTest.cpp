@@ -1,0 +1,133 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "../control/Banco.h"
+#include "CollegaStrumenti.h"
+#include "F_VisualizzaColonne.h"
+
+namespace {
+
+using combi::Colonna;
+
+// `quante` kept columns; column i holds 1 + i % 85 and the next five numbers,
+// so that every row's text tells which column it is.
+void ImpostaColonne(CombiFiltroA& c, int quante) {
+    std::vector<Colonna> v(static_cast<size_t>(quante) + 1);
+    for (int i = 1; i <= quante; ++i)
+        for (int p = 1; p <= 6; ++p) v[static_cast<size_t>(i)][p] = static_cast<uint8_t>(i % 85 + p);
+    c.ImpostaColonneSviluppo(v);
+}
+
+// The "Colonna" cells of the list, in order.
+std::vector<int> Righe(const F_VisualizzaColonne& f) {
+    std::vector<int> ids;
+    for (int r = 0; r < f.ListView1()->topLevelItemCount(); ++r)
+        ids.push_back(f.ListView1()->topLevelItem(r)->text(0).toInt());
+    return ids;
+}
+
+std::vector<int> DaA(int primo, int ultimo) {
+    std::vector<int> ids;
+    for (int id = primo; id <= ultimo; ++id) ids.push_back(id);
+    return ids;
+}
+
+TEST(F_VisualizzaColonne, PagesTwentyOneColumnsFromTheSlider) {
+    struct Caso {
+        const char* nome;
+        int colonne;
+        bool cursore;
+        int massimo;
+        int posizione;  // where the slider is moved, 0: left at 1
+        std::vector<int> righe;
+    };
+    const Caso casi[] = {
+        {"nessuna", 0, false, 1, 0, {}},
+        {"una", 1, false, 1, 0, {1}},
+        {"cinque", 5, true, 5, 0, DaA(1, 5)},
+        {"cinque, all'ultima", 5, true, 5, 5, {5}},
+        {"ventidue", 22, true, 22, 0, DaA(1, 21)},
+        {"mille, alla 100", 1000, true, 1000, 100, DaA(100, 120)},
+        {"mille, verso la fine", 1000, true, 1000, 990, DaA(990, 1000)},
+        {"mille, oltre la fine", 1000, true, 1000, 5000, {1000}},
+    };
+    for (const Caso& c : casi) {
+        SCOPED_TRACE(c.nome);
+        Banco b;
+        ImpostaColonne(b.c, c.colonne);
+        F_VisualizzaColonne f(b.c);
+        EXPECT_EQ(f.windowTitle(), "Colonne condizionate");
+        EXPECT_EQ(f.Slider1()->isEnabled(), c.cursore);
+        EXPECT_EQ(f.Slider1()->minimum(), 1);
+        EXPECT_EQ(f.Slider1()->maximum(), c.massimo);
+        if (c.posizione > 0) f.Slider1()->setValue(c.posizione);
+        EXPECT_EQ(Righe(f), c.righe);
+        for (int r = 0; r < f.ListView1()->topLevelItemCount(); ++r) {
+            const QTreeWidgetItem* voce = f.ListView1()->topLevelItem(r);
+            EXPECT_EQ(voce->text(1), b.c.GetColonnaSviluppo(voce->text(0).toInt()));
+        }
+    }
+}
+
+TEST(F_VisualizzaColonne, FollowsTheSliderWhileDraggedAndShowsTheColumnTexts) {
+    Banco b;
+    ImpostaColonne(b.c, 40);
+    F_VisualizzaColonne f(b.c);
+    ASSERT_EQ(f.ListView1()->headerItem()->text(0), "Colonna");
+    ASSERT_EQ(f.ListView1()->headerItem()->text(1), "Numeri");
+    EXPECT_EQ(f.ListView1()->topLevelItem(0)->text(1), "02 03 04 05 06 07");
+    f.Slider1()->setSliderDown(true);
+    f.Slider1()->setSliderPosition(30);
+    EXPECT_EQ(Righe(f), DaA(30, 40)) << "while dragging";
+    f.Slider1()->setSliderDown(false);
+    f.Slider1()->triggerAction(QAbstractSlider::SliderToMinimum);
+    EXPECT_EQ(Righe(f), DaA(1, 21));
+    f.show();
+    f.XPButton1()->click();
+    EXPECT_FALSE(f.isVisible());
+}
+
+TEST(CollegaStrumenti, VisualizzaColonneOpensTheViewerModally) {
+    Banco b;
+    CollegaStrumenti(b.c, b.dialoghi);
+    ImpostaColonne(b.c, 3);
+    std::vector<int> righe;
+    QString titolo;
+    bool modale = false;
+    QTimer::singleShot(0, [&] {
+        auto* f = qobject_cast<F_VisualizzaColonne*>(QApplication::activeModalWidget());
+        if (f == nullptr) return;
+        titolo = f->windowTitle();
+        modale = f->isModal();
+        righe = Righe(*f);
+        f->XPButton1()->click();
+    });
+    b.c.EseguiComando("VisualizzaColonne");
+    EXPECT_EQ(titolo, "Colonne condizionate");
+    EXPECT_TRUE(modale);
+    EXPECT_EQ(righe, DaA(1, 3));
+}
+
+// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// it saves a picture of the viewer paged to column 100 of 1000.
+TEST(Screenshot, VisualizzaColonne) {
+    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
+    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
+    QDir().mkpath(cartella);
+    Banco b;
+    ImpostaColonne(b.c, 1000);
+    F_VisualizzaColonne f(b.c);
+    f.Slider1()->setValue(100);
+    f.show();
+    QTest::qWait(200);
+    EXPECT_TRUE(f.grab().save(cartella + "/visualizza-colonne.png"));
+}
+
+}  // namespace
