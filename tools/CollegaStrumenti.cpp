@@ -4,16 +4,15 @@
 
 #include "CombiFiltroA.h"
 #include "F_EffettoCond.h"
+#include "F_Riduzione.h"
+#include "F_Spoglio.h"
+#include "F_VisualizzaColonne.h"
 #include "NavigatoreControllo.h"
 #include "SegnalazioneErrori.h"
-#include "F_Riduzione.h"
-#include "F_VisualizzaColonne.h"
-#include "F_Spoglio.h"
 
 void CollegaStrumenti(CombiFiltroA& controllo, ServizioDialoghi& dialoghi) {
     CombiFiltroA* ctl = &controllo;
     ServizioDialoghi* servizio = &dialoghi;
-    // One registration per tool window.
     controllo.RegistraComando("ConfrontoCondSuCol", [ctl, servizio] {
         F_Spoglio spoglio(*ctl, *servizio, ctl);
         spoglio.exec();
@@ -41,6 +40,4 @@ void CollegaStrumenti(CombiFiltroA& controllo, ServizioDialoghi& dialoghi) {
     });
     controllo.RegistraComando("AggiornaNavigatore", [navigatore] { navigatore->Aggiorna(); });
     controllo.RegistraComando("ChiudiNavigatore", [navigatore] { navigatore->Chiudi(); });
-    (void)ctl;
-    (void)servizio;
 }
