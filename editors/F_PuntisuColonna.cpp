@@ -43,7 +43,9 @@ QString F_PuntisuColonna::TestoParametri() const {
 
 void F_PuntisuColonna::LeggiParametri(const std::string& testo) {
     // The line breaks after every fourth number are not part of the numbers.
-    for (std::string_view pezzo : combi::Dividi(combi::RimuoviACapo(testo), "-")) {
+    // The pieces are views into this string: it must outlive the loop.
+    const std::string numeri = combi::RimuoviACapo(testo);
+    for (std::string_view pezzo : combi::Dividi(numeri, "-")) {
         griglia_->ImpostaNumero(combi::LeggiInt32(pezzo), true);
     }
 }
