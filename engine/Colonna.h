@@ -21,6 +21,12 @@ struct Colonna {
     bool operator==(const Colonna&) const = default;
 };
 
+// The most columns held in memory at once (5 GB): the kept columns of a
+// development and a columns file read whole. A set this large is beyond what
+// the tools can use; refusing it with a message beats the process being
+// killed for lack of memory halfway through.
+inline constexpr uint64_t kMassimoColonneInMemoria = 250'000'000;
+
 static_assert(sizeof(Colonna) == 20, "a column is 20 bytes in files and in memory");
 
 // The class of a column that carries none: the highest position holding a

@@ -28,7 +28,8 @@ uint64_t LunghezzaFile(const std::string& percorso) {
 std::vector<uint8_t> LeggiFileBinario(const std::string& percorso, uint64_t massimo) {
     const uint64_t n = LunghezzaFile(percorso);
     if (n > massimo)
-        throw Errore(kErroreMemoria, "File troppo grande: " + percorso);
+        throw Errore(kErroreMemoria, "File troppo grande: " + percorso + " (" + std::to_string(n) +
+                                         " byte, al massimo " + std::to_string(massimo) + ")");
     std::ifstream in(percorso, std::ios::binary);
     std::vector<uint8_t> dati(n);
     if (!in || !in.read(reinterpret_cast<char*>(dati.data()), std::streamsize(n)))

@@ -12,7 +12,7 @@ namespace combi {
 
 inline constexpr uint64_t kLunghezzaColonna = 20;
 // The largest columns file read into memory: 250 million columns (5 GB).
-inline constexpr uint64_t kMassimoFileColonne = 250'000'000ull * kLunghezzaColonna;
+inline constexpr uint64_t kMassimoFileColonne = kMassimoColonneInMemoria * kLunghezzaColonna;
 
 // The columns of the file. Trailing bytes that do not make a whole record
 // (a file cut short by a full disk) are left out.

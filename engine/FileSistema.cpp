@@ -74,7 +74,7 @@ std::vector<uint8_t> CodificaSistema(const FileSistema& s) {
     return w.Dati();
 }
 
-FileSistema DecodificaSistema(const uint8_t* dati, size_t lunghezza) {
+void ControllaLunghezzaSistema(uint64_t lunghezza) {
     if (lunghezza < kLunghezzaMinimaSistema)
         throw Errore(kErroreFileTroncato,
                      "File di sistema troppo corto: servono almeno 587 byte, ne ha " +
@@ -83,6 +83,11 @@ FileSistema DecodificaSistema(const uint8_t* dati, size_t lunghezza) {
     if (n > int64_t(kMassimoCondizioniFile))
         throw Errore(kErroreFormatoFile, "Il file contiene " + std::to_string(n) +
                                              " condizioni: al massimo 200");
+}
+
+FileSistema DecodificaSistema(const uint8_t* dati, size_t lunghezza) {
+    ControllaLunghezzaSistema(lunghezza);
+    const int64_t n = NumeroCondizioniInFile(lunghezza);
     FileSistema s;
     LittleEndianReader r(dati, lunghezza);
     r.Testo(s.intestazione.firma, 7);
@@ -99,6 +104,7 @@ FileSistema DecodificaSistema(const uint8_t* dati, size_t lunghezza) {
 }
 
 FileSistema LeggiFileSistema(const std::string& percorso) {
+    ControllaLunghezzaSistema(LunghezzaFile(percorso));
     const std::vector<uint8_t> dati = LeggiFileBinario(percorso, kMassimaLunghezzaFile);
     return DecodificaSistema(dati.data(), dati.size());
 }

@@ -37,6 +37,11 @@ struct FileSistema {
 // (length - 317) / 270 rounded to the nearest integer, halves to even.
 int64_t NumeroCondizioniInFile(uint64_t lunghezza);
 
+// The refusal of a file by its length alone, before anything is allocated:
+// Errore 62 below 587 bytes (no room for one condition), Errore 321 when the
+// length means more than 200 conditions (a file of 10 GB is refused here).
+void ControllaLunghezzaSistema(uint64_t lunghezza);
+
 std::vector<uint8_t> CodificaSistema(const FileSistema& s);
 // Throws Errore: 62 for a file too short for one condition or cut inside
 // the records it should hold, 321 for more than 200 conditions.

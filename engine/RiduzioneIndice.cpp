@@ -31,9 +31,17 @@ constexpr uint32_t kMassimoDenso = 3'000'000;
 // columns at 3 points, where the array wins.
 constexpr uint64_t kRiempimentoDenso = 2;
 
+// Below this many pairs a comparison sort beats the counting passes, whose
+// two tables of 65537 counters cost more to clear than a small file to sort.
+constexpr size_t kMinimoConteggio = 4096;
+
 // The pairs sorted by their upper 32 bits (the subset rank), two stable
 // 16-bit counting passes. Ranks below 2^30 make the second pass short.
 void OrdinaPerRango(std::vector<uint64_t>& v) {
+    if (v.size() < kMinimoConteggio) {
+        std::stable_sort(v.begin(), v.end(), [](uint64_t a, uint64_t b) { return (a >> 32) < (b >> 32); });
+        return;
+    }
     std::vector<uint64_t> appoggio(v.size());
     for (int shift = 32; shift < 64; shift += 16) {
         std::vector<size_t> posizione(65537, 0);

@@ -35,6 +35,9 @@ struct ParametriSviluppo {
     int riduzione = 0;              // K of "Riduzione N-K"; 0 for none
     TabellaCondizioni condizioni;   // at least one record
     TabellaQuadri quadri{};
+    // The kept columns are held in memory: past this many the development
+    // ends with Errore 7 instead of exhausting the memory (tests lower it).
+    uint64_t massimoTenute = kMassimoColonneInMemoria;
 };
 
 // Worker `indice` of `di` develops the contiguous stretch
@@ -72,6 +75,12 @@ Tratto TrattoDellaQuota(uint64_t totale, const Quota& quota);
 // developed (class outside 1..20, numbers not ascending in 1..90, class above
 // the count of picked numbers, a bad share).
 void ControllaParametri(const ParametriSviluppo& p, const Quota& quota);
+
+// The refusal of a development that would keep more than p.massimoTenute
+// columns: Errore 7 naming the limit and the count of the integral system, so
+// that the user sees how far the conditions are from a system that fits.
+// Both paths raise it at the same column, after the same progress reports.
+[[noreturn]] void ErroreTroppeColonne(const ParametriSviluppo& p);
 
 RisultatoSviluppo SviluppaSistemaRiferimento(const ParametriSviluppo& p, OsservatoreSviluppo& oss,
                                              const Quota& quota = {});

@@ -60,6 +60,7 @@ private:
     uint64_t prossimo_ = 0;     // next block to hand out
     uint64_t consegnati_ = 0;   // blocks committed so far
     bool fine_ = false;
+    bool troppe_ = false;  // the kept columns passed p_.massimoTenute
     std::deque<std::optional<Blocco>> pronti_;  // slot i holds block consegnati_ + i
 
     Colonna ultimaTenuta_{};
@@ -107,6 +108,10 @@ bool Coordinatore::Consegna(const Blocco& b, RisultatoSviluppo& r, OsservatoreSv
     const int distanza = DistanzaRiduzione(p_.classe, p_.riduzione);
     for (const Colonna& c : b.superate) {
         if (distanza >= 1 && ContaComuni(p_.classe, c, ultimaTenuta_) >= distanza) continue;
+        if (r.colonne.size() >= p_.massimoTenute) {
+            troppe_ = true;  // raised once the workers have been joined
+            return false;
+        }
         r.colonne.push_back(c);
         ultimaTenuta_ = c;
     }
@@ -155,6 +160,7 @@ RisultatoSviluppo Coordinatore::Esegui(OsservatoreSviluppo& oss) {
     cambiato_.notify_all();
     lock.unlock();
     for (auto& t : lavoratori) t.join();
+    if (troppe_) ErroreTroppeColonne(p_);
 
     r.condizioni = p_.condizioni;
     AzzeraEsiti(r.condizioni);

@@ -39,6 +39,13 @@ void ControllaParametri(const ParametriSviluppo& p, const Quota& quota) {
         throw Errore(kErroreArgomento, "Quota non valida: serve I/W con 1 <= I <= W");
 }
 
+void ErroreTroppeColonne(const ParametriSviluppo& p) {
+    throw Errore(kErroreMemoria,
+                 "Troppe colonne condizionate: oltre " + std::to_string(p.massimoTenute) + " su " +
+                     std::to_string(Combinazioni(int(p.numeri.size()), p.classe)) +
+                     " colonne integrali. Aggiungere condizioni o ridurre il pronostico");
+}
+
 RisultatoSviluppo SviluppaSistemaRiferimento(const ParametriSviluppo& p, OsservatoreSviluppo& oss,
                                              const Quota& quota) {
     ControllaParametri(p, quota);
@@ -56,6 +63,7 @@ RisultatoSviluppo SviluppaSistemaRiferimento(const ParametriSviluppo& p, Osserva
         const Colonna& colonna = en.Corrente();
         if (VerificaColonna(k, colonna, r.condizioni, p.quadri) != 0 &&
             (distanza < 1 || ContaComuni(k, colonna, ultimaTenuta) < distanza)) {
+            if (r.colonne.size() >= p.massimoTenute) ErroreTroppeColonne(p);
             r.colonne.push_back(colonna);
             ultimaTenuta = colonna;
         }

@@ -5,18 +5,14 @@
 #include <string>
 
 #include "DecodificaCondizioni.h"
+#include "Ingressi.h"
 #include "Sviluppo.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t lunghezza) {
     using namespace combi;
-    // Fields separated by 0x1F; each group of six is one grid column, rows 0..5
-    // (row 1, the name, picked by a byte among the known names); then the
-    // recovery lines.
-    std::vector<std::string> campi(1);
-    for (size_t i = 0; i < lunghezza; ++i) {
-        if (dati[i] == 0x1F) campi.emplace_back();
-        else campi.back() += char(dati[i]);
-    }
+    // Each group of six fields is one grid column, rows 0..5 (row 1, the name,
+    // picked by its first byte among the known names); then the recovery lines.
+    const std::vector<std::string> campi = fuzz::Pezzi(dati, lunghezza, fuzz::kSeparatoreCampi);
     TestiGriglia g;
     size_t i = 0;
     for (; i + 6 <= campi.size() && g.colonne.size() < 12; i += 6) {
