@@ -1,3 +1,4 @@
+#include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
 #include <unistd.h>
@@ -17,14 +18,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class CliTest : public ::testing::Test {
+class CliTest : public test::TestConCartella {
 protected:
-    void SetUp() override {
-        cartella_ = fs::temp_directory_path() / ("cf_cli_" + std::to_string(::getpid()));
-        fs::create_directories(cartella_);
-    }
-    void TearDown() override { fs::remove_all(cartella_); }
-    std::string P(const std::string& nome) const { return (cartella_ / nome).string(); }
+    CliTest() : TestConCartella("cf_cli_") {}
+    std::string P(const std::string& nome) const { return Percorso(nome); }
 
     int Esegui(const cli::Parole& parole) {
         out_.str(""), err_.str("");
@@ -67,7 +64,6 @@ protected:
         ScriviFileSistema(percorso, s);
     }
 
-    fs::path cartella_;
     std::ostringstream out_, err_;
 };
 

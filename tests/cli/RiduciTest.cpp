@@ -1,3 +1,4 @@
+#include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
 #include <unistd.h>
@@ -15,21 +16,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class RiduciSpoglioTest : public ::testing::Test {
+class RiduciSpoglioTest : public test::TestConCartella {
 protected:
-    void SetUp() override {
-        cartella_ = fs::temp_directory_path() / ("cf_cli_rid_" + std::to_string(::getpid()));
-        fs::create_directories(cartella_);
-    }
-    void TearDown() override { fs::remove_all(cartella_); }
-    std::string P(const std::string& nome) const { return (cartella_ / nome).string(); }
+    RiduciSpoglioTest() : TestConCartella("cf_cli_rid_") {}
+    std::string P(const std::string& nome) const { return Percorso(nome); }
 
     int Esegui(const cli::Parole& parole) {
         out_.str(""), err_.str("");
         return cli::Esegui(parole, out_, err_);
     }
 
-    fs::path cartella_;
     std::ostringstream out_, err_;
 };
 

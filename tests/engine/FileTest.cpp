@@ -1,3 +1,4 @@
+#include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -13,15 +14,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class FileTest : public ::testing::Test {
+class FileTest : public test::TestConCartella {
 protected:
-    void SetUp() override {
-        cartella_ = fs::temp_directory_path() / ("cf_file_" + std::to_string(::getpid()));
-        fs::create_directories(cartella_);
-    }
-    void TearDown() override { fs::remove_all(cartella_); }
-    std::string Percorso(const std::string& nome) const { return (cartella_ / nome).string(); }
-    fs::path cartella_;
+    FileTest() : TestConCartella("cf_file_") {}
 };
 
 TEST_F(FileTest, SystemFileLayoutIsByteExact) {

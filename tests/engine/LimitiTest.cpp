@@ -1,6 +1,7 @@
 // What the program does at the limits of its data: files too short or far
 // too long, headers with values outside their domain, developments that keep
 // more columns than can be held, saves that fail.
+#include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -22,21 +23,15 @@ namespace {
 namespace fs = std::filesystem;
 using test::Col;
 
-class LimitiTest : public ::testing::Test {
+class LimitiTest : public test::TestConCartella {
 protected:
-    void SetUp() override {
-        cartella_ = fs::temp_directory_path() / ("cf_limiti_" + std::to_string(::getpid()));
-        fs::create_directories(cartella_);
-    }
-    void TearDown() override { fs::remove_all(cartella_); }
-    std::string Percorso(const std::string& nome) const { return (cartella_ / nome).string(); }
+    LimitiTest() : TestConCartella("cf_limiti_") {}
     // A file of that length that takes no room on disk.
     std::string FileSparso(const std::string& nome, uint64_t lunghezza) const {
         std::ofstream(Percorso(nome), std::ios::binary).close();
         fs::resize_file(Percorso(nome), lunghezza);
         return Percorso(nome);
     }
-    fs::path cartella_;
 };
 
 // The number and description of the error `f` throws; {0, ""} when none.
