@@ -11,6 +11,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <deque>
+#include <exception>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -47,6 +48,8 @@ private:
     bool Prendi(uint64_t& indice);
     Blocco Calcola(uint64_t indice) const;
     bool Consegna(const Blocco& b, RisultatoSviluppo& r, OsservatoreSviluppo& oss);
+    void Commita(RisultatoSviluppo& r, OsservatoreSviluppo& oss);
+    void Fallisci();  // with the mutex held
 
     const ParametriSviluppo& p_;
     const Valutatore& valutatore_;
@@ -61,6 +64,9 @@ private:
     uint64_t consegnati_ = 0;   // blocks committed so far
     bool fine_ = false;
     bool troppe_ = false;  // the kept columns passed p_.massimoTenute
+    // The first failure of any thread (out of memory, an observer's error):
+    // everyone stops, the threads are joined, and it is raised again.
+    std::exception_ptr errore_;
     std::deque<std::optional<Blocco>> pronti_;  // slot i holds block consegnati_ + i
 
     Colonna ultimaTenuta_{};
@@ -96,7 +102,14 @@ void Coordinatore::Lavora() {
         cambiato_.wait(lock, [&] { return fine_ || prossimo_ >= blocchi_ || Prendi(indice); });
         if (indice == UINT64_MAX) return;
         lock.unlock();
-        Blocco b = Calcola(indice);
+        std::optional<Blocco> b;
+        try {
+            b = Calcola(indice);
+        } catch (...) {
+            lock.lock();
+            Fallisci();
+            return;
+        }
         lock.lock();
         if (fine_) return;
         pronti_[indice - consegnati_] = std::move(b);
@@ -127,39 +140,29 @@ bool Coordinatore::Consegna(const Blocco& b, RisultatoSviluppo& r, OsservatoreSv
     return true;
 }
 
+void Coordinatore::Fallisci() {
+    if (!errore_) errore_ = std::current_exception();
+    fine_ = true;
+    cambiato_.notify_all();
+}
+
 RisultatoSviluppo Coordinatore::Esegui(OsservatoreSviluppo& oss) {
     RisultatoSviluppo r;
     std::vector<std::thread> lavoratori;
     for (int i = 1; i < thread_; ++i) lavoratori.emplace_back([this] { Lavora(); });
-
-    std::unique_lock lock(mutex_);
-    while (consegnati_ < blocchi_) {
-        if (!pronti_.front()) {
-            // The next block is not ready: judge one ourselves rather than idle.
-            uint64_t indice;
-            if (Prendi(indice)) {
-                lock.unlock();
-                Blocco b = Calcola(indice);
-                lock.lock();
-                pronti_[indice - consegnati_] = std::move(b);
-                continue;
-            }
-            cambiato_.wait(lock, [&] { return pronti_.front().has_value(); });
-        }
-        Blocco b = std::move(*pronti_.front());
-        pronti_.pop_front();
-        pronti_.emplace_back();
-        ++consegnati_;
-        cambiato_.notify_all();
-        lock.unlock();
-        const bool continua = Consegna(b, r, oss);
-        lock.lock();
-        if (!continua) break;
+    try {
+        Commita(r, oss);
+    } catch (...) {
+        std::lock_guard lock(mutex_);
+        Fallisci();
     }
-    fine_ = true;
-    cambiato_.notify_all();
-    lock.unlock();
+    {
+        std::lock_guard lock(mutex_);
+        fine_ = true;
+        cambiato_.notify_all();
+    }
     for (auto& t : lavoratori) t.join();
+    if (errore_) std::rethrow_exception(errore_);
     if (troppe_) ErroreTroppeColonne(p_);
 
     r.condizioni = p_.condizioni;
@@ -171,6 +174,36 @@ RisultatoSviluppo Coordinatore::Esegui(OsservatoreSviluppo& oss) {
         r.condizioni[i].ContaRecuperabili = satura(totali_.recuperabili[i]);
     }
     return r;
+}
+
+// The calling thread commits the blocks in order, judging one itself when
+// the next is not ready.
+void Coordinatore::Commita(RisultatoSviluppo& r, OsservatoreSviluppo& oss) {
+    std::unique_lock lock(mutex_);
+    while (consegnati_ < blocchi_ && !errore_) {
+        if (!pronti_.front()) {
+            // The next block is not ready: judge one ourselves rather than idle.
+            uint64_t indice;
+            if (Prendi(indice)) {
+                lock.unlock();
+                Blocco b = Calcola(indice);
+                lock.lock();
+                pronti_[indice - consegnati_] = std::move(b);
+                continue;
+            }
+            cambiato_.wait(lock, [&] { return pronti_.front().has_value() || errore_; });
+            if (errore_) return;
+        }
+        Blocco b = std::move(*pronti_.front());
+        pronti_.pop_front();
+        pronti_.emplace_back();
+        ++consegnati_;
+        cambiato_.notify_all();
+        lock.unlock();
+        const bool continua = Consegna(b, r, oss);
+        lock.lock();
+        if (!continua) break;
+    }
 }
 
 // The table of the plain loop also keeps the values and flags of the last

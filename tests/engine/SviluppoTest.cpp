@@ -86,6 +86,27 @@ TEST(Sviluppo, StopIsHonouredAtTheNextMultipleOfTenThousand) {
     }
 }
 
+// A failure while the worker threads judge (here the host's progress
+// callback) reaches the caller as the same exception: no thread is left
+// running, nothing hangs, the process is not ended.
+TEST(Sviluppo, AFailureDuringTheRunReachesTheCaller) {
+    struct Guasto : OsservatoreSviluppo {
+        void Progresso(uint64_t testate, uint64_t) override {
+            if (testate >= 20000) throw Errore(7, "memoria esaurita");
+        }
+    };
+    const ParametriSviluppo p = Sistema(22, 6, {{"", "Consecutivi", "", "0-1", "", ""}});  // 74613 columns
+    for (int thread : {1, 2, 4}) {
+        Guasto guasto;
+        try {
+            SviluppaSistema(p, guasto, {.thread = thread, .quota = {}});
+            ADD_FAILURE() << "no error with " << thread << " threads";
+        } catch (const Errore& e) {
+            EXPECT_EQ(e.numero(), 7) << thread;
+        }
+    }
+}
+
 TEST(Sviluppo, ReductionDropsColumnsTooCloseToThePreviousKeptOne) {
     // Class 6, K = 1: R = 5. The first column 1..6 is kept; 1 2 3 4 5 7 shares 5: dropped.
     const ParametriSviluppo p = Sistema(8, 6, {}, 1);
