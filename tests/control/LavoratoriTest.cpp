@@ -11,6 +11,7 @@
 
 #include "../engine/ColonnaDiProva.h"
 #include "Banco.h"
+#include "CartellaTempProvvisoria.h"
 #include "FileColonne.h"
 #include "FileSistema.h"
 #include "Utilita.h"
@@ -32,18 +33,6 @@ struct BancoLavoratori : Banco {
         c.setNumeroThreadsSviluppo(3);
         c.ImpostaOrologio([this] { return adesso; });
     }
-};
-
-// Points each worker file name of the run into a scratch folder for the test.
-class CartellaTempProvvisoria {
-public:
-    CartellaTempProvvisoria() : vecchia_(qgetenv("TMPDIR")) { qputenv("TMPDIR", dir_.path().toLocal8Bit()); }
-    ~CartellaTempProvvisoria() { qputenv("TMPDIR", vecchia_); }
-    const QTemporaryDir& dir() const { return dir_; }
-
-private:
-    QTemporaryDir dir_;
-    QByteArray vecchia_;
 };
 
 }  // namespace
@@ -114,7 +103,7 @@ TEST(Lavoratori, ProgressIsTheSumOverWorkersAndCancelDropsPartialResults) {
 TEST(Lavoratori, RaccogliCondizioniSumsTheWorkersCounters) {
     CartellaTempProvvisoria temp;
     const std::string base = combi::FileSistemaTemp();
-    ASSERT_EQ(combi::CartellaDelFile(base), combi::CartellaDelFile(temp.dir().filePath("x").toStdString()));
+    ASSERT_EQ(combi::CartellaDelFile(base), combi::CartellaDelFile(temp.Percorso("x").toStdString()));
     for (int i = 1; i <= 2; ++i) {
         combi::FileSistema f;
         f.intestazione.classe = 2;

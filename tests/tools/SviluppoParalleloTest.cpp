@@ -11,21 +11,10 @@
 #include <QToolButton>
 
 #include "../control/Banco.h"
+#include "../control/CartellaTempProvvisoria.h"
 #include "SviluppoParallelo.h"
 
 namespace {
-
-// Worker files of every test go into a scratch folder (the children inherit it).
-class CartellaTempProvvisoria {
-public:
-    CartellaTempProvvisoria() : vecchia_(qgetenv("TMPDIR")) { qputenv("TMPDIR", dir_.path().toLocal8Bit()); }
-    ~CartellaTempProvvisoria() { qputenv("TMPDIR", vecchia_); }
-    QString Percorso(const QString& nome) const { return dir_.filePath(nome); }
-
-private:
-    QTemporaryDir dir_;
-    QByteArray vecchia_;
-};
 
 void SistemaDiProva(Banco& b) {
     b.NumeriDa1A(18);
