@@ -66,9 +66,7 @@ void F_PuntiSuSequenze::LeggiParametri(const std::string& testo) {
 
 std::string F_PuntiSuSequenze::RiempiParametri(const std::string& campo) {
     auto [sequenza, valori] = editori::DividiIntestazione(campo);
-    const bool valida = !sequenza.empty() &&
-                        std::all_of(sequenza.begin(), sequenza.end(), [](char c) { return c == 'P' || c == 'D'; });
-    if (!valida) editori::ErroreTestoNonValido("sequenza \"" + sequenza + "\" (solo lettere P e D)");
+    if (!combi::SequenzaValida(sequenza)) editori::ErroreTestoNonValido("sequenza \"" + sequenza + "\" (solo lettere P e D)");
     ImpostaSequenza(QString::fromStdString(sequenza));
     return valori;
 }
