@@ -18,6 +18,7 @@ Argomenti::Argomenti(const std::vector<std::string>& parole, const std::vector<s
         }
         const std::string nome = p.substr(2);
         if (tra(flag, nome)) {
+            if (flag_.count(nome)) throw ErroreUso{"opzione --" + nome + " ripetuta"};
             flag_[nome] = true;
         } else if (tra(conValore, nome)) {
             if (i + 1 >= parole.size()) throw ErroreUso{"manca il valore di --" + nome};

@@ -12,6 +12,7 @@ namespace combi::cli {
 using Parole = std::vector<std::string>;
 
 int ComandoSviluppa(const Parole& parole, std::ostream& out, std::ostream& err);
+int ComandoConta(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoInfo(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoRiduci(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoSpoglio(const Parole& parole, std::ostream& out, std::ostream& err);

@@ -21,7 +21,8 @@ struct Comando {
 const Comando kComandi[] = {
     {"sviluppa", ComandoSviluppa,
      "sviluppa SISTEMA.sic --colonne OUT.col [--contatori OUT.sic] [--thread N] [--quota I/W] "
-     "[--riferimento] [--rapporto] [--mpi]"},
+     "[--riferimento] [--rapporto] [--mpi] [--silenzioso]"},
+    {"conta", ComandoConta, "conta SISTEMA.sic [--contatori OUT.sic] [--thread N] [--silenzioso]"},
     {"info", ComandoInfo, "info FILE.sic|FILE.col"},
     {"riduci", ComandoRiduci, "riduci COLONNE.col --punti P --colonne OUT.col [--riferimento]"},
     {"spoglio", ComandoSpoglio, "spoglio COLONNE.col --estrazione 5,12,90 [--minimo P] [--classe K]"},

@@ -1,43 +1,26 @@
 // combifiltro-cli sviluppa: develops the system of a .sic file and writes the
-// kept columns, and optionally the system again with its counters filled
-// (the layout the workers of a parallel development leave behind).
+// kept columns as the run produces them, and optionally the system again with
+// its counters filled (the layout the workers of a parallel development leave
+// behind). The memory in use does not grow with the columns kept.
 
 #include <ostream>
 
 #include "Argomenti.h"
 #include "Comandi.h"
-#include "FileColonne.h"
+#include "Conteggi.h"
 #include "FileSistema.h"
+#include "Rapporto.h"
+#include "Riepilogo.h"
+#include "ScritturaColonne.h"
 #include "SviluppaMpi.h"
 #include "Sviluppo.h"
-#include "Rapporto.h"
 #include "Terminale.h"
-#include "Utilita.h"
 
 namespace combi::cli {
 
-namespace {
-
-Quota LeggiQuota(const std::string& testo) {
-    const size_t barra = testo.find('/');
-    if (barra == std::string::npos) throw ErroreUso{"--quota vuole la forma I/W, per esempio 2/4"};
-    Quota q;
-    q.di = LeggiIntero(testo.substr(barra + 1), 1, 4096, "W di --quota");
-    q.indice = LeggiIntero(testo.substr(0, barra), 1, q.di, "I di --quota");
-    return q;
-}
-
-OpzioniSviluppo LeggiOpzioni(const Argomenti& a) {
-    OpzioniSviluppo o;
-    if (auto t = a.Opzione("thread")) o.thread = LeggiIntero(*t, 1, 1024, "--thread");
-    if (auto q = a.Opzione("quota")) o.quota = LeggiQuota(*q);
-    return o;
-}
-
-}  // namespace
-
 int ComandoSviluppa(const Parole& parole, std::ostream& out, std::ostream& err) {
-    const Argomenti a(parole, {"colonne", "contatori", "thread", "quota"}, {"riferimento", "rapporto", "mpi"});
+    const Argomenti a(parole, {"colonne", "contatori", "thread", "quota"},
+                      {"riferimento", "rapporto", "mpi", "silenzioso"});
     if (a.Flag("mpi")) return SviluppaConMpi(a, out, err);
     if (a.Posizionali().size() != 1) throw ErroreUso{"indicare un solo file di sistema (.sic)"};
     const auto colonne = a.Opzione("colonne");
@@ -46,17 +29,20 @@ int ComandoSviluppa(const Parole& parole, std::ostream& out, std::ostream& err) 
 
     FileSistema sistema = LeggiFileSistema(a.Posizionali()[0]);
     const ParametriSviluppo p = ParametriDalFile(sistema);
+    ControllaParametri(p, opzioni.quota);
+    const Tratto tratto = TrattoDellaQuota(Combinazioni(int(p.numeri.size()), p.classe), opzioni.quota);
     InstallaStopDaTastiera();
-    OsservatoreTerminale terminale(err);
+    OsservatoreTerminale terminale(err, tratto.fine - tratto.inizio,
+                                   SuTerminale(err) && !a.Flag("silenzioso") && !a.Flag("rapporto"));
     OsservatoreRapporto rapporto(out);
     OsservatoreSviluppo& osservatore = a.Flag("rapporto") ? static_cast<OsservatoreSviluppo&>(rapporto) : terminale;
     const Cronometro cronometro;
-    const RisultatoSviluppo r = a.Flag("riferimento")
-                                    ? SviluppaSistemaRiferimento(p, osservatore, opzioni.quota)
-                                    : SviluppaSistema(p, osservatore, opzioni);
+    ScritturaColonne scrittura(*colonne);
+    const EsitoSviluppo r = a.Flag("riferimento")
+                                ? SviluppaSistemaRiferimento(p, osservatore, scrittura, opzioni.quota)
+                                : SviluppaSistema(p, osservatore, &scrittura, opzioni);
     terminale.Chiudi();
-
-    ScriviFileColonne(*colonne, r.colonne);
+    scrittura.Concludi();
     if (auto contatori = a.Opzione("contatori")) {
         sistema.condizioni = r.condizioni;
         ScriviFileSistema(*contatori, sistema);
@@ -64,13 +50,10 @@ int ComandoSviluppa(const Parole& parole, std::ostream& out, std::ostream& err) 
     if (a.Flag("rapporto")) {
         // A stopped worker reports no end: its share is incomplete.
         if (r.interrotto) return 1;
-        rapporto.Fine(r.testate, r.colonne.size(), *colonne);
+        rapporto.Fine(r.testate, r.tenute, *colonne);
         return 0;
     }
-    out << "Sviluppate : " << FormatNumero(double(r.testate)) << "\n"
-        << "Condizionate : " << FormatNumero(double(r.colonne.size())) << "\n"
-        << "Tempo : " << TempoTrascorso(cronometro.Secondi()) << "\n";
-    if (r.interrotto) out << "Sviluppo interrotto: le colonne sono quelle tenute fin qui.\n";
+    StampaRiepilogo(out, r.testate, r.tenute, cronometro.Secondi(), r.interrotto);
     return 0;
 }
 

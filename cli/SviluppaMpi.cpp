@@ -24,7 +24,9 @@
 #include "PacchettoQuota.h"
 #include "SviluppaMpi.h"
 #include "Sviluppo.h"
+#include "Riepilogo.h"
 #include "Terminale.h"
+#include "Conteggi.h"
 #include "UnioneQuote.h"
 #include "Utilita.h"
 
@@ -249,11 +251,8 @@ void ScriviRisultato(const Richiesta& richiesta, FileSistema sistema, const Risu
         sistema.condizioni = r.condizioni;
         ScriviFileSistema(*richiesta.contatori, sistema);
     }
-    out << "Sviluppate : " << FormatNumero(double(r.testate)) << "\n"
-        << "Condizionate : " << FormatNumero(double(r.colonne.size())) << "\n"
-        << "Processi MPI : " << processi << "\n"
-        << "Tempo : " << TempoTrascorso(cronometro.Secondi()) << "\n";
-    if (r.interrotto) out << "Sviluppo interrotto: le colonne sono quelle tenute fin qui.\n";
+    out << "Processi MPI : " << processi << "\n";
+    StampaRiepilogo(out, r.testate, r.colonne.size(), cronometro.Secondi(), r.interrotto);
 }
 
 // The part of the run inside the MPI job; nothing on every process but 0.
@@ -278,7 +277,10 @@ std::optional<Raccolta> SviluppaInsieme(const Argomenti& a, std::ostream& err) {
     }
 
     InstallaStopDaTastiera();
-    OsservatoreTerminale terminale(err);
+    // Process 0 shows the progress of its own share.
+    const ParametriSviluppo p = ParametriDalFile(raccolta.sistema);
+    const Tratto tratto = TrattoDellaQuota(Combinazioni(int(p.numeri.size()), p.classe), {1, mpi.Processi()});
+    OsservatoreTerminale terminale(err, tratto.fine - tratto.inizio, SuTerminale(err) && !a.Flag("silenzioso"));
     OsservatoreMuto muto;
     try {
         OsservatoreSviluppo& oss = mpi.Rango() == 0 ? static_cast<OsservatoreSviluppo&>(terminale) : muto;

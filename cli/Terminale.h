@@ -2,6 +2,7 @@
 // Progress shown on a terminal, and Ctrl-C as a stop request.
 
 #include <chrono>
+#include <cstdint>
 #include <iosfwd>
 #include <string>
 
@@ -17,19 +18,28 @@ bool SuTerminale(const std::ostream& s);
 void InstallaStopDaTastiera();
 bool StopDaTastiera();
 
-// The development's observer of the command line: a redrawn progress line on
-// a terminal, and Ctrl-C as the stop request.
+// The development's observer of the command line: on a terminal, one line
+// kept up to date with the percentage done, the columns tested and kept, the
+// columns per second and the time left; Ctrl-C as the stop request.
 class OsservatoreTerminale : public OsservatoreSviluppo {
 public:
-    explicit OsservatoreTerminale(std::ostream& err) : err_(err), attivo_(SuTerminale(err)) {}
+    // `totale`: the columns the run will test; `attivo`: whether to draw at all.
+    OsservatoreTerminale(std::ostream& err, uint64_t totale, bool attivo);
     void Progresso(uint64_t testate, uint64_t tenute) override;
     bool RichiestaStop() override { return StopDaTastiera(); }
     void Chiudi();  // ends the progress line
 
+    // The line drawn after `secondi` seconds with these counts.
+    static std::string Riga(uint64_t testate, uint64_t tenute, uint64_t totale, double secondi);
+
 private:
+    using Orologio = std::chrono::steady_clock;
     std::ostream& err_;
+    uint64_t totale_;
     bool attivo_;
     bool scritto_ = false;
+    Orologio::time_point inizio_ = Orologio::now();
+    Orologio::time_point ultimoDisegno_{};
 };
 
 // Seconds since a start, for the elapsed-time line.

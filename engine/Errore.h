@@ -11,6 +11,7 @@ namespace combi {
 enum NumeroErrore : int {
     kErroreIndice = 9,            // index outside the data
     kErroreFileNonTrovato = 53,
+    kErroreDiscoPieno = 61,
     kErroreFileTroncato = 62,     // input past end of file
     kErroreAccessoFile = 75,      // path/file access error
     kErroreFormatoFile = 321,     // invalid file format

@@ -1,16 +1,10 @@
 #include "FileBinario.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 
 #include "Errore.h"
+#include "FileProvvisorio.h"
 
 namespace combi {
 
@@ -37,37 +31,10 @@ std::vector<uint8_t> LeggiFileBinario(const std::string& percorso, uint64_t mass
     return dati;
 }
 
-namespace {
-
-bool ScriviTutto(int fd, const std::vector<uint8_t>& dati) {
-    size_t scritti = 0;
-    while (scritti < dati.size()) {
-        const ssize_t n = ::write(fd, dati.data() + scritti, dati.size() - scritti);
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) return false;
-        scritti += size_t(n);
-    }
-    return ::fsync(fd) == 0;
-}
-
-}  // namespace
-
 void ScriviFileSicuro(const std::string& percorso, const std::vector<uint8_t>& dati) {
-    std::string temporaneo = percorso + ".tmpXXXXXX";
-    const int fd = ::mkstemp(temporaneo.data());
-    if (fd < 0)
-        throw Errore(kErroreAccessoFile, "Impossibile creare il file: " + percorso + " (" +
-                                             std::strerror(errno) + ")");
-    const bool ok = ScriviTutto(fd, dati);
-    const int erroreScrittura = errno;
-    ::fchmod(fd, 0644);
-    const bool chiuso = ::close(fd) == 0;
-    if (!ok || !chiuso || std::rename(temporaneo.c_str(), percorso.c_str()) != 0) {
-        const int e = ok && chiuso ? errno : erroreScrittura;
-        std::remove(temporaneo.c_str());
-        throw Errore(kErroreAccessoFile, "Impossibile scrivere il file: " + percorso + " (" +
-                                             std::strerror(e) + ")");
-    }
+    FileProvvisorio file(percorso);
+    file.Scrivi(dati.data(), dati.size());
+    file.Concludi();
 }
 
 }  // namespace combi

@@ -16,7 +16,8 @@ uint64_t LunghezzaFile(const std::string& percorso);
 
 // Writes the bytes to a temporary file beside the target, flushes it and
 // renames it over the target, so an existing file is replaced whole or left
-// as it was. Throws Errore 75 on failure (the temporary file is removed).
+// as it was. Throws Errore 61 on a full disk, 75 on any other failure (the
+// temporary file is removed).
 void ScriviFileSicuro(const std::string& percorso, const std::vector<uint8_t>& dati);
 
 }  // namespace combi

@@ -9,6 +9,9 @@
 // 10000 tested columns, so a stop ends the run at the next multiple of 10000.
 
 #include <cstdint>
+#include <functional>
+#include <span>
+#include <thread>
 #include <vector>
 
 #include "Colonna.h"
@@ -35,9 +38,6 @@ struct ParametriSviluppo {
     int riduzione = 0;              // K of "Riduzione N-K"; 0 for none
     TabellaCondizioni condizioni;   // at least one record
     TabellaQuadri quadri{};
-    // The kept columns are held in memory: past this many the development
-    // ends with Errore 7 instead of exhausting the memory (tests lower it).
-    uint64_t massimoTenute = kMassimoColonneInMemoria;
 };
 
 // Worker `indice` of `di` develops the contiguous stretch
@@ -47,17 +47,36 @@ struct Quota {
     int di = 1;
 };
 
+// Starts a thread running `lavoro`; tests pass one that fails on purpose.
+using AvviaThread = std::function<std::thread(std::function<void()> lavoro)>;
+
 struct OpzioniSviluppo {
     int thread = 0;  // 0: one per hardware thread
     Quota quota;
 };
 
-struct RisultatoSviluppo {
-    std::vector<Colonna> colonne;   // kept columns in enumeration order
+// Where the kept columns go, in enumeration order, as the run produces them.
+// Every call is made on the thread that started the development.
+class DestinazioneColonne {
+public:
+    virtual ~DestinazioneColonne() = default;
+    virtual void Accoda(std::span<const Colonna> colonne) = 0;
+};
+
+// What a development leaves besides its columns.
+struct EsitoSviluppo {
     uint64_t testate = 0;           // columns tested
+    uint64_t tenute = 0;            // columns kept
     TabellaCondizioni condizioni;   // counters summed over the tested columns;
                                     // Valore and flags of the last tested column
     bool interrotto = false;        // a stop request ended the run early
+};
+
+struct RisultatoSviluppo {
+    std::vector<Colonna> colonne;   // kept columns in enumeration order
+    uint64_t testate = 0;
+    TabellaCondizioni condizioni;
+    bool interrotto = false;
 };
 
 // The distance R = k - K below which a passing column must stay from the
@@ -76,15 +95,26 @@ Tratto TrattoDellaQuota(uint64_t totale, const Quota& quota);
 // the count of picked numbers, a bad share).
 void ControllaParametri(const ParametriSviluppo& p, const Quota& quota);
 
-// The refusal of a development that would keep more than p.massimoTenute
-// columns: Errore 7 naming the limit and the count of the integral system, so
-// that the user sees how far the conditions are from a system that fits.
-// Both paths raise it at the same column, after the same progress reports.
-[[noreturn]] void ErroreTroppeColonne(const ParametriSviluppo& p);
+// The plain loop: one column at a time through VerificaColonna. The kept
+// columns go to `destinazione` every 10000 tested columns and at the end.
+EsitoSviluppo SviluppaSistemaRiferimento(const ParametriSviluppo& p, OsservatoreSviluppo& oss,
+                                         DestinazioneColonne& destinazione, const Quota& quota = {});
 
+// The fast path, on every core. A null `destinazione` only counts: the
+// columns are judged, reduced and counted, and none is written. The worker
+// threads are started through `avvia` when given (empty: std::thread).
+EsitoSviluppo SviluppaSistema(const ParametriSviluppo& p, OsservatoreSviluppo& oss,
+                              DestinazioneColonne* destinazione, const OpzioniSviluppo& opzioni = {},
+                              const AvviaThread& avvia = {});
+
+// How many columns the development would keep, with every counter, at the
+// development's speed and without writing any column.
+EsitoSviluppo ContaSistema(const ParametriSviluppo& p, OsservatoreSviluppo& oss,
+                           const OpzioniSviluppo& opzioni = {});
+
+// Both paths with the kept columns held in memory.
 RisultatoSviluppo SviluppaSistemaRiferimento(const ParametriSviluppo& p, OsservatoreSviluppo& oss,
                                              const Quota& quota = {});
-
 RisultatoSviluppo SviluppaSistema(const ParametriSviluppo& p, OsservatoreSviluppo& oss,
                                   const OpzioniSviluppo& opzioni = {});
 

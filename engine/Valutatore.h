@@ -1,60 +1,97 @@
 #pragma once
-// The development's fast judgement of a column. The condition table is
-// compiled once per run: point lists become bit masks, number and position
-// sets become 128-bit masks, and the link groups, which depend only on the
-// order of the types, are settled once into a fixed evaluation program.
-// It must agree with VerificaColonna on every column; the tests check it.
+// The development's fast judgement. All the columns that share their first
+// k-1 numbers (a block) are judged at once: each condition, compiled into a
+// CondizioneCompilata, turns the prefix into a key, and the key into masks
+// of the candidates for the last position on which it passes and on which
+// it is recoverable. The recovery panels and the link groups combine these
+// masks with bit-sliced counters.
+//
+// Two things keep it fast. The condition counters count every column, but
+// on a whole block a condition's outcome depends only on its key and the
+// prefix's last number, so a block adds one to a tally of those pairs, and
+// the tallies turn into counts now and then (Riversa). And the verdict is
+// built one condition at a time, stopping as soon as no candidate is left:
+// most blocks of a selective system end after a condition or two.
+//
+// The link groups depend only on the order of the types, so they are settled
+// once into a fixed program. It must agree with VerificaColonna on every
+// column; the tests check it on seeded random systems of every class.
 
 #include <array>
 #include <cstdint>
 #include <vector>
 
-#include "Colonna.h"
+#include "CondizioneCompilata.h"
 #include "Condizione.h"
+#include "Maschera.h"
+#include "Prefisso.h"
 
 namespace combi {
 
-inline constexpr int kMaxCondizioniVeloci = 256;
-
 class Valutatore {
 public:
-    using Bitset = std::array<uint64_t, kMaxCondizioniVeloci / 64>;
-
-    // Per condition: columns that failed, passed and were recoverable.
+    // The counters of the judged conditions, in their table order: passes
+    // [0, n) and recoverables [n, 2n). The failures are the tested columns
+    // minus the passes.
     struct Contatori {
-        std::vector<int64_t> fallite, superate, recuperabili;
-        explicit Contatori(size_t n = 0) : fallite(n), superate(n), recuperabili(n) {}
+        std::vector<int64_t> valori;
         void Somma(const Contatori& altri);
+        void Azzera();
     };
 
-    // A table of more than kMaxCondizioniVeloci conditions cannot be compiled.
-    static bool Compilabile(const TabellaCondizioni& tabella) {
-        return tabella.size() <= kMaxCondizioniVeloci;
-    }
+    // One thread's working space: the keys and masks of the current block,
+    // and per condition the tally of whole blocks by key and last number.
+    struct Lavagna {
+        std::vector<uint32_t> chiavi;
+        std::vector<Maschera128> superate, recuperabili, gruppi;
+        std::vector<uint32_t> tallie;   // per condition from its base: [chiave * 91 + ultimo]
+        std::vector<uint32_t> primaChiave, ultimaChiave;  // keys tallied since the last Riversa
+    };
 
-    Valutatore(const TabellaCondizioni& tabella, const TabellaQuadri& quadri, int classe);
+    // `numeri`: the picked numbers, ascending.
+    Valutatore(const TabellaCondizioni& tabella, const TabellaQuadri& quadri, int classe,
+               const std::vector<int>& numeri);
     ~Valutatore();
     Valutatore(const Valutatore&) = delete;
     Valutatore& operator=(const Valutatore&) = delete;
 
-    // Judges one column and adds its outcome to the counters.
-    bool Giudica(const Colonna& c, Contatori& contatori) const;
+    // A link group or panel too large for the counters' width; such a table
+    // is developed by the plain loop.
+    static bool Compilabile(const TabellaCondizioni& tabella);
+
+    Lavagna NuovaLavagna() const;
+    Contatori NuoviContatori() const;
+
+    // The candidates (numbers for position k after the prefix of k-1 numbers)
+    // whose columns pass. `intero`: the candidates are every picked number
+    // above the prefix's last, so the block's outcomes may be tallied; a cut
+    // block adds them to the counters at once.
+    Maschera128 Giudica(const Prefisso& prefisso, Maschera128 candidati, bool intero, Contatori& contatori,
+                        Lavagna& lavagna) const;
+
+    // Adds the tallies into the counters and clears them.
+    void Riversa(Lavagna& lavagna, Contatori& contatori) const;
+
+    // The counters as the table's records show them, saturated to 32 bits.
+    void ScriviContatori(const Contatori& c, uint64_t testate, TabellaCondizioni& tabella) const;
 
 private:
-    struct Compilata;
-    struct Gruppo;
     struct Quadro;
+    struct Gruppo;
 
+    void CompilaQuadri(const TabellaCondizioni& tabella, const TabellaQuadri& quadri);
     void CompilaGruppi(const TabellaCondizioni& tabella);
+    Maschera128 EsitoGruppo(const Gruppo& g, Lavagna& l, int ultimo) const;
+    void Maschere(int i, int ultimo, Lavagna& l) const;
 
-    int k_;
-    int parole_;                        // 64-bit words of the bitsets in use
-    std::vector<Compilata> condizioni_;
+    std::vector<CondizioneCompilata> condizioni_;  // the judged conditions, in table order
+    std::vector<int> indici_;                      // their table indices
+    std::vector<size_t> basi_;                     // where each one's tallies start
+    std::vector<int> posto_;                       // table index -> position in condizioni_, -1
+    std::vector<int> foglieSole_;      // must pass on their own, in no active panel
     std::vector<Quadro> quadri_;
-    std::vector<Gruppo> gruppi_;        // inner groups before the groups that contain them
-    Bitset sempreSuperate_{};           // type 0: passes on every column
-    Bitset foglieFinali_{};             // conditions judged one by one at the end
-    std::vector<int> gruppiFinali_;     // groups judged one by one at the end
+    std::vector<Gruppo> gruppi_;       // inner groups before the groups that contain them
+    std::array<Maschera128, kMaxNumero + 1> sopra_{};  // picked numbers above each number
 };
 
 }  // namespace combi

@@ -103,37 +103,6 @@ TEST_F(LimitiTest, HeaderValuesOutsideTheirDomain) {
     EXPECT_EQ(ErroreDi([&] { SviluppaSistema(ParametriDalFile(s), o); }).second, "Impostare il pronostico");
 }
 
-// Counts the progress reports, to compare the two paths up to the refusal.
-class Rapporti : public OsservatoreSviluppo {
-public:
-    void Progresso(uint64_t testate, uint64_t tenute) override { visti.push_back({testate, tenute}); }
-    std::vector<std::pair<uint64_t, uint64_t>> visti;
-};
-
-TEST_F(LimitiTest, KeptColumnsBeyondTheLimitEndTheDevelopmentOnBothPaths) {
-    ParametriSviluppo p;
-    for (int n = 1; n <= 20; ++n) p.numeri.push_back(n * 4);
-    p.classe = 5;                 // C(20,5) = 15504 columns, all kept without conditions
-    p.condizioni.resize(1);
-    p.massimoTenute = 12'000;     // passed in the second block of 10000
-    for (int thread : {1, 2}) {
-        Rapporti rif, veloce;
-        const auto a = ErroreDi([&] { SviluppaSistemaRiferimento(p, rif); });
-        const auto b = ErroreDi([&] { SviluppaSistema(p, veloce, {.thread = thread, .quota = {}}); });
-        EXPECT_EQ(a.first, kErroreMemoria);
-        EXPECT_EQ(a.second,
-                  "Troppe colonne condizionate: oltre 12000 su 15504 colonne integrali. Aggiungere "
-                  "condizioni o ridurre il pronostico");
-        EXPECT_EQ(b, a) << thread;
-        EXPECT_EQ(veloce.visti, rif.visti) << thread;
-        EXPECT_EQ(rif.visti, (std::vector<std::pair<uint64_t, uint64_t>>{{10000, 10000}}));
-    }
-    p.massimoTenute = 15'504;  // exactly the integral system fits
-    OsservatoreSviluppo o;
-    EXPECT_EQ(SviluppaSistema(p, o).colonne.size(), 15'504u);
-    EXPECT_EQ(SviluppaSistemaRiferimento(p, o).colonne.size(), 15'504u);
-}
-
 TEST_F(LimitiTest, ColumnsOutsideTheRules) {
     // The reduction needs six different numbers 1..90 and names the column.
     const std::vector<Colonna> colonne = {Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 4, 5, 91}),

@@ -16,9 +16,14 @@ public:
     explicit GeneratoreSistemi(uint32_t seme) : rng_(seme) {}
 
     ParametriSviluppo Sistema(int maxNumeri = 14, int maxClasse = 8) {
+        const int classe = Tra(1, maxClasse);
+        return SistemaDi(classe, Tra(classe, std::max(classe, maxNumeri)));
+    }
+
+    // A system of exactly `n` numbers in class `classe`.
+    ParametriSviluppo SistemaDi(int classe, int n) {
         ParametriSviluppo p;
-        p.classe = Tra(1, maxClasse);
-        const int n = Tra(p.classe, std::max(p.classe, maxNumeri));
+        p.classe = classe;
         std::vector<int> tutti(90);
         for (int i = 0; i < 90; ++i) tutti[i] = i + 1;
         std::shuffle(tutti.begin(), tutti.end(), rng_);

@@ -1,0 +1,192 @@
+#pragma once
+// One condition compiled for the judgement of whole blocks (the columns that
+// share their first k-1 numbers). On every block the condition depends on
+// the prefix only through a small whole number, its key: the count of set
+// members for "Punti Col.", the sum for "Resto", the first number for
+// "Ampiezza", the parity pattern's verdicts for "Vortice", and so on. The key
+// and the prefix's last number fix the masks of the candidates on which the
+// condition passes and is recoverable; that is what lets the development
+// count a condition's outcomes by tallying keys, and build masks only for
+// the blocks that can still keep a column.
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "Condizione.h"
+#include "Maschera.h"
+#include "Prefisso.h"
+
+namespace combi {
+
+namespace dettaglio {
+
+inline constexpr Maschera128 kPari{0x5555555555555555ull, 0x5555555555555555ull};
+inline constexpr Maschera128 kDispari{0xAAAAAAAAAAAAAAAAull, 0xAAAAAAAAAAAAAAAAull};
+// Masks by a two-bit code: bit 0 for the even candidates, bit 1 for the odd.
+inline constexpr std::array<Maschera128, 4> kPerParita{Maschera128{}, kPari, kDispari, Maschera128::Tutti()};
+inline constexpr uint32_t kSenzaDistanza = 0;  // the key of a prefix with no gap yet
+
+// A value outside 0..10 is in no point list.
+inline bool InElenco(uint16_t maschera, int64_t v) { return v >= 0 && v <= 10 && ((maschera >> v) & 1); }
+
+// Everything outside `piu` when `fuori`, everything inside when `dentro`.
+inline Maschera128 Scegli(bool fuori, bool dentro, const Maschera128& piu) {
+    return (TuttiSe(fuori) & ~piu) | (TuttiSe(dentro) & piu);
+}
+
+}  // namespace dettaglio
+
+class CondizioneCompilata {
+public:
+    // `numeri`: the picked numbers, ascending (they bound the sums).
+    CondizioneCompilata(const Condizione& c, int classe, const std::vector<int>& numeri);
+
+    // How many keys there are: every key lies in 0..Chiavi()-1.
+    uint32_t Chiavi() const { return chiavi_; }
+
+    uint32_t Chiave(const Prefisso& p) const;
+
+    // The candidates on which the condition passes directly and on which it
+    // is recoverable, for a key and the prefix's last number (0 when the
+    // prefix is empty).
+    void Maschere(uint32_t chiave, int ultimo, Maschera128& sup, Maschera128& rec) const;
+
+private:
+    enum class Genere : uint8_t;
+
+    bool Accetta(int64_t v) const;
+    bool Recupera(int64_t v) const;
+    Maschera128 SupSpostato(int64_t v0) const;
+    Maschera128 RecSpostato(int64_t v0) const;
+    void CompilaConta(const Condizione& c);
+    void CompilaPerSomma(const Condizione& c, const std::vector<int>& numeri);
+    void CompilaParita();
+    void CompilaDistanze(Genere genere);
+    void CompilaVicini(Genere genere, const Maschera128& piu);
+    template <class F>
+    void Relativa(F&& maschere, uint32_t chiavi);
+    // The parity measure's sup code | rec code << 2 after a prefix's parities.
+    uint8_t CodiceParita(uint32_t parita) const;
+
+    Genere genere_;
+    bool elenco_ = false;          // judged on a point list, else on a range
+    int k_ = 0;
+    uint16_t punti_ = 0, recupero_ = 0;
+    int32_t minPunti_ = 0, maxPunti_ = 0, minRecupero_ = 0, maxRecupero_ = 0;
+    int32_t costante_ = 0;         // Costante's value; Posizioni' position
+    int scarto_ = 0;               // Vicini: the gap counted
+    bool ultimaScelta_ = false;    // Peso: the last position is among the chosen
+    bool prefissoScelto_ = false;  // Peso: every prefix position is chosen
+    uint32_t caselle_ = 0;         // Peso: bit i-1 for position i
+    uint32_t chiavi_ = 1;
+    Maschera128 insieme_;          // Conta: the number set
+    std::vector<Maschera128> sup_, rec_;   // by key, where tabulated
+    std::vector<uint8_t> codici_;          // Parita: codes by parity pattern
+    Condizione origine_;                   // for the parity measures above the tabulated classes
+};
+
+enum class CondizioneCompilata::Genere : uint8_t {
+    Conta,            // Punti Col., Pari-Dispari: members of a number set
+    Peso,
+    PerSomma,         // Resto, Baricentro: tabulated by the prefix's sum
+    Ampiezza,
+    Posizioni,
+    DistanzaMinima,
+    DistanzaMassima,
+    Vicini,           // Consecutivi, Ponte: neighbours at a fixed gap
+    Interruzioni,
+    Parita,           // Vortice, Simmetrie, Sequenze, Paralleli
+    Costante,         // a value that no candidate can change
+};
+
+inline bool CondizioneCompilata::Accetta(int64_t v) const {
+    return elenco_ ? dettaglio::InElenco(punti_, v) : minPunti_ <= v && v <= maxPunti_;
+}
+
+inline bool CondizioneCompilata::Recupera(int64_t v) const {
+    return elenco_ ? dettaglio::InElenco(recupero_, v) : minRecupero_ <= v && v <= maxRecupero_;
+}
+
+// The candidates x with v0 + x inside the accepted (recoverable) range.
+inline Maschera128 CondizioneCompilata::SupSpostato(int64_t v0) const {
+    return Maschera128::Intervallo(minPunti_ - v0, maxPunti_ - v0);
+}
+
+inline Maschera128 CondizioneCompilata::RecSpostato(int64_t v0) const {
+    return Maschera128::Intervallo(minRecupero_ - v0, maxRecupero_ - v0);
+}
+
+inline uint32_t CondizioneCompilata::Chiave(const Prefisso& p) const {
+    switch (genere_) {
+    case Genere::Conta: return uint32_t((p.numeri & insieme_).Conta());
+    case Genere::Peso: {
+        if (prefissoScelto_) return uint32_t(p.somma);
+        uint32_t v = 0;
+        for (int i = 1; i <= p.lunghezza; ++i)
+            if ((caselle_ >> (i - 1)) & 1) v += p.colonna[i];
+        return v;
+    }
+    case Genere::PerSomma: return uint32_t(p.somma);
+    case Genere::Ampiezza: return uint32_t(p.primo);
+    case Genere::Posizioni: return costante_ == k_ ? 0 : p.colonna[costante_];
+    case Genere::DistanzaMinima:
+        return p.distanzaMinima == Prefisso::kNessunaDistanza ? dettaglio::kSenzaDistanza : uint32_t(p.distanzaMinima);
+    case Genere::DistanzaMassima: return uint32_t(p.distanzaMassima);
+    case Genere::Vicini: return uint32_t(scarto_ == 1 ? p.consecutivi : p.ponti);
+    case Genere::Interruzioni: return uint32_t(p.interruzioni);
+    case Genere::Parita: return codici_.empty() ? CodiceParita(p.parita) : codici_[p.parita];
+    case Genere::Costante: return 0;
+    }
+    return 0;
+}
+
+inline void CondizioneCompilata::Maschere(uint32_t chiave, int ultimo, Maschera128& sup, Maschera128& rec) const {
+    switch (genere_) {
+    case Genere::Conta:
+    case Genere::PerSomma:
+        sup = sup_[chiave];
+        rec = rec_[chiave];
+        return;
+    case Genere::Peso:
+        if (ultimaScelta_) {
+            sup = SupSpostato(chiave);
+            rec = RecSpostato(chiave);
+        } else {
+            sup = TuttiSe(Accetta(chiave));
+            rec = TuttiSe(Recupera(chiave));
+        }
+        return;
+    case Genere::Ampiezza:  // x - first
+        sup = sup_[0].Sposta(int(chiave));
+        rec = rec_[0].Sposta(int(chiave));
+        return;
+    case Genere::Posizioni:
+        if (costante_ == k_) {  // the last number itself
+            sup = SupSpostato(0);
+            rec = RecSpostato(0);
+        } else {
+            sup = TuttiSe(Accetta(chiave));
+            rec = TuttiSe(Recupera(chiave));
+        }
+        return;
+    case Genere::DistanzaMinima:
+    case Genere::DistanzaMassima:
+    case Genere::Vicini:
+    case Genere::Interruzioni:  // over the gap x - last
+        sup = sup_[chiave].Sposta(ultimo);
+        rec = rec_[chiave].Sposta(ultimo);
+        return;
+    case Genere::Parita:
+        sup = dettaglio::kPerParita[chiave & 3];
+        rec = dettaglio::kPerParita[chiave >> 2];
+        return;
+    case Genere::Costante:
+        sup = TuttiSe(Accetta(costante_));
+        rec = TuttiSe(Recupera(costante_));
+        return;
+    }
+}
+
+}  // namespace combi

@@ -1,0 +1,64 @@
+#pragma once
+// The integral columns walked block by block: a block is the run of columns
+// that share their first k-1 numbers (the prefix) and differ in the last one.
+// In lexicographic order a block's columns have consecutive ranks, so any
+// stretch of ranks is a sequence of blocks, the first and last possibly cut.
+
+#include <array>
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "Colonna.h"
+#include "Maschera.h"
+#include "Prefisso.h"
+
+namespace combi {
+
+class EnumerazioneBlocchi {
+public:
+    // `sel`: the picked numbers, ascending; k: the class, 1..20.
+    EnumerazioneBlocchi(const std::vector<int>& sel, int k);
+
+    // Moves to the column of the given 0-based rank.
+    void Posiziona(uint64_t rango);
+
+    // Walks the next `quante` columns (fewer at the end of the enumeration),
+    // calling f(prefisso, candidati, intero) once per block or piece of a
+    // block: the candidates are the numbers of position k in those columns,
+    // `intero` tells that they are the whole block. Returns how many columns
+    // were walked.
+    template <class F>
+    uint64_t Percorri(uint64_t quante, F&& f) {
+        uint64_t fatte = 0;
+        while (fatte < quante && !finita_) {
+            const uint64_t n = std::min<uint64_t>(quante - fatte, uint64_t(n_ - prossimo_));
+            const int ultimo = prossimo_ + int(n) - 1;
+            const bool intero = prossimo_ == PrimoCandidato() && ultimo == n_ - 1;
+            f(stati_[size_t(k_ - 1)],
+              scelti_ & Maschera128::Intervallo(sel_[size_t(prossimo_)], sel_[size_t(ultimo)]), intero);
+            fatte += n;
+            prossimo_ = ultimo + 1;
+            if (prossimo_ == n_) AvanzaPrefisso();
+        }
+        return fatte;
+    }
+
+private:
+    void AvanzaPrefisso();
+    // The index into sel_ of the block's first candidate.
+    int PrimoCandidato() const { return k_ >= 2 ? pos_[size_t(k_ - 2)] + 1 : 0; }
+    void Ricostruisci(int da);  // the prefix states from position `da` (0-based) on
+
+    std::vector<int> sel_;
+    int k_;
+    int n_;
+    Maschera128 scelti_;
+    std::array<int, kMaxClasse> pos_{};       // 0-based indices into sel_ of the prefix
+    std::array<Prefisso, kMaxClasse> stati_{};  // stati_[d]: the first d numbers
+    int prossimo_ = 0;                         // index into sel_ of the next candidate
+    bool finita_ = false;
+};
+
+}  // namespace combi
