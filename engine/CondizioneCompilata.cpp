@@ -67,6 +67,7 @@ CondizioneCompilata::CondizioneCompilata(const Condizione& c, int classe, const 
             else if (i < k) prefissoScelto_ = false;
         }
         ultimaScelta_ = c.Numeri[size_t(k)] != 0;
+        penultimaScelta_ = k >= 2 && c.Numeri[size_t(k - 1)] != 0;
         chiavi_ = uint32_t(SommaMassima(numeri, k - 1)) + 1;
         break;
     }
@@ -107,6 +108,107 @@ CondizioneCompilata::CondizioneCompilata(const Condizione& c, int classe, const 
         if (k >= 2) CompilaVicini(Genere::Interruzioni, kDispari);
         break;
     default: CompilaParita(); break;  // Vortice, Simmetrie, Sequenze, Paralleli
+    }
+    chiaviRiga_ = ChiaviDelleRighe();
+}
+
+// The row keys of each kind: what the first k-2 numbers leave for y to settle.
+uint32_t CondizioneCompilata::ChiaviDelleRighe() const {
+    switch (genere_) {
+    case Genere::Parita: return 256;                     // the two codes, y even and y odd
+    case Genere::Interruzioni: return 3 * kMaxClasse;    // count and the last number's parity or none
+    case Genere::Costante: return 1;
+    default: return chiavi_;
+    }
+}
+
+uint32_t CondizioneCompilata::RigaDi(const Prefisso& q) const {
+    switch (genere_) {
+    case Genere::Conta: return uint32_t((q.numeri & insieme_).Conta());
+    case Genere::Peso: return PesoDi(q);
+    case Genere::PerSomma: return uint32_t(q.somma);
+    case Genere::Ampiezza: return q.lunghezza > 0 ? uint32_t(q.primo) : 0;
+    case Genere::Posizioni: return costante_ <= q.lunghezza ? q.colonna[costante_] : 0;
+    case Genere::Parita: {
+        const uint32_t dispari = uint32_t(1) << q.lunghezza;  // y at position k-1
+        const auto codice = [&](uint32_t m) { return codici_.empty() ? CodiceParita(m) : codici_[m]; };
+        return codice(q.parita) | uint32_t(codice(q.parita | dispari)) << 4;
+    }
+    case Genere::Interruzioni:
+        return 3 * uint32_t(q.interruzioni) + (q.lunghezza == 0 ? 2 : uint32_t(q.ultimo & 1));
+    case Genere::Vicini: return uint32_t(scarto_ == 1 ? q.consecutivi : q.ponti);
+    case Genere::DistanzaMinima:
+        return q.distanzaMinima == Prefisso::kNessunaDistanza ? kSenzaDistanza : uint32_t(q.distanzaMinima);
+    case Genere::DistanzaMassima: return uint32_t(q.distanzaMassima);
+    case Genere::Costante: return 0;
+    }
+    return 0;
+}
+
+uint32_t CondizioneCompilata::ChiaveDaRiga(uint32_t riga, int y) const {
+    switch (genere_) {
+    case Genere::Conta: return riga + uint32_t(insieme_.Contiene(y));
+    case Genere::Peso: return riga + (penultimaScelta_ ? uint32_t(y) : 0);
+    case Genere::PerSomma: return riga + uint32_t(y);
+    case Genere::Ampiezza: return k_ >= 3 ? riga : uint32_t(y);  // y is the first number in class 2
+    case Genere::Posizioni: return costante_ == k_ - 1 ? uint32_t(y) : riga;
+    case Genere::Parita: return (y & 1) ? riga >> 4 : riga & 15;
+    case Genere::Interruzioni: {
+        const uint32_t ultimo = riga % 3;
+        return riga / 3 + (ultimo < 2 && uint32_t(y & 1) != ultimo);
+    }
+    default: return riga;  // the gap kinds tally their exceptions as blocks
+    }
+}
+
+void CondizioneCompilata::ContaRiga(const Prefisso& q, int yPrimo, int yUltimo, const Maschera128& scelti,
+                                    const Tallie& t) const {
+    const auto intervallo = [&](uint32_t riga, int64_t da, int64_t a) {
+        if (da > a) return;
+        t.perRiga[riga * kLarghezzaRiga + size_t(da)] += 1;
+        t.perRiga[riga * kLarghezzaRiga + size_t(a) + 1] -= 1;
+        *t.primaRiga = std::min(*t.primaRiga, riga);
+        *t.ultimaRiga = std::max(*t.ultimaRiga, riga);
+    };
+    const auto blocco = [&](uint32_t chiave, int y) {
+        ++t.perChiave[chiave * (kMaxNumero + 1) + size_t(y)];
+        *t.primaChiave = std::min(*t.primaChiave, chiave);
+        *t.ultimaChiave = std::max(*t.ultimaChiave, chiave);
+    };
+    // The blocks of y in da..a one by one, with the key the gap y - last.
+    const auto diagonale = [&](int64_t da, int64_t a) {
+        (scelti & Maschera128::Intervallo(std::max<int64_t>(da, yPrimo), std::min<int64_t>(a, yUltimo)))
+            .PerOgni([&](int y) { blocco(uint32_t(y - q.ultimo), y); });
+    };
+    const uint32_t riga = RigaDi(q);
+    if (q.lunghezza == 0 || (genere_ != Genere::Vicini && genere_ != Genere::DistanzaMinima &&
+                             genere_ != Genere::DistanzaMassima)) {
+        intervallo(riga, yPrimo, yUltimo);
+        return;
+    }
+    const int64_t c = q.ultimo;
+    switch (genere_) {
+    case Genere::Vicini: {
+        intervallo(riga, yPrimo, yUltimo);
+        const int y = q.ultimo + scarto_;  // the one y that adds a neighbour
+        if (y < yPrimo || y > yUltimo || !scelti.Contiene(y)) return;
+        t.perRiga[riga * kLarghezzaRiga + size_t(y)] -= 1;
+        t.perRiga[riga * kLarghezzaRiga + size_t(y) + 1] += 1;
+        blocco(riga + 1, y);
+        return;
+    }
+    case Genere::DistanzaMinima:  // min(d, y - last)
+        if (riga == kSenzaDistanza) {
+            diagonale(yPrimo, yUltimo);
+            return;
+        }
+        intervallo(riga, std::max<int64_t>(yPrimo, c + riga), yUltimo);
+        diagonale(yPrimo, c + riga - 1);
+        return;
+    default:  // DistanzaMassima: max(D, y - last)
+        intervallo(riga, yPrimo, std::min<int64_t>(yUltimo, c + riga));
+        diagonale(c + riga + 1, yUltimo);
+        return;
     }
 }
 

@@ -48,10 +48,38 @@ public:
 
     uint32_t Chiave(const Prefisso& p) const;
 
+    // A row is every block whose prefix starts with the same k-2 numbers q:
+    // they differ in the number y at position k-1. Over a row the condition
+    // depends on q through a row key, and on y: Riga() is the key's bound,
+    // ChiaveDaRiga the block key of row key and y.
+    uint32_t ChiaviRiga() const { return chiaviRiga_; }
+    uint32_t ChiaveDaRiga(uint32_t riga, int y) const;
+
+    // Where one thread tallies a condition's blocks.
+    struct Tallie {
+        uint32_t* perChiave;   // blocks by [chiave * 91 + last number]
+        int32_t* perRiga;      // rows as differences over y: [riga * 92 + y]
+        uint32_t* primaChiave;
+        uint32_t* ultimaChiave;
+        uint32_t* primaRiga;
+        uint32_t* ultimaRiga;
+    };
+    static constexpr size_t kLarghezzaRiga = kMaxNumero + 2;
+
+    // Tallies every block of the row of prefix q, whose y runs over the
+    // picked numbers yPrimo..yUltimo.
+    void ContaRiga(const Prefisso& q, int yPrimo, int yUltimo, const Maschera128& scelti, const Tallie& t) const;
+
     // The candidates on which the condition passes directly and on which it
     // is recoverable, for a key and the prefix's last number (0 when the
     // prefix is empty).
     void Maschere(uint32_t chiave, int ultimo, Maschera128& sup, Maschera128& rec) const;
+    // The first of the two alone, for conditions in no recovery panel.
+    Maschera128 Superate(uint32_t chiave, int ultimo) const {
+        Maschera128 sup, rec;
+        Maschere(chiave, ultimo, sup, rec);
+        return sup;
+    }
 
 private:
     enum class Genere : uint8_t;
@@ -63,6 +91,9 @@ private:
     void CompilaConta(const Condizione& c);
     void CompilaPerSomma(const Condizione& c, const std::vector<int>& numeri);
     void CompilaParita();
+    uint32_t RigaDi(const Prefisso& q) const;
+    uint32_t ChiaviDelleRighe() const;
+    uint32_t PesoDi(const Prefisso& p) const;
     void CompilaDistanze(Genere genere);
     void CompilaVicini(Genere genere, const Maschera128& piu);
     template <class F>
@@ -81,6 +112,8 @@ private:
     bool prefissoScelto_ = false;  // Peso: every prefix position is chosen
     uint32_t caselle_ = 0;         // Peso: bit i-1 for position i
     uint32_t chiavi_ = 1;
+    uint32_t chiaviRiga_ = 1;
+    bool penultimaScelta_ = false;  // Peso: position k-1 is among the chosen
     Maschera128 insieme_;          // Conta: the number set
     std::vector<Maschera128> sup_, rec_;   // by key, where tabulated
     std::vector<uint8_t> codici_;          // Parita: codes by parity pattern
@@ -121,13 +154,7 @@ inline Maschera128 CondizioneCompilata::RecSpostato(int64_t v0) const {
 inline uint32_t CondizioneCompilata::Chiave(const Prefisso& p) const {
     switch (genere_) {
     case Genere::Conta: return uint32_t((p.numeri & insieme_).Conta());
-    case Genere::Peso: {
-        if (prefissoScelto_) return uint32_t(p.somma);
-        uint32_t v = 0;
-        for (int i = 1; i <= p.lunghezza; ++i)
-            if ((caselle_ >> (i - 1)) & 1) v += p.colonna[i];
-        return v;
-    }
+    case Genere::Peso: return PesoDi(p);
     case Genere::PerSomma: return uint32_t(p.somma);
     case Genere::Ampiezza: return uint32_t(p.primo);
     case Genere::Posizioni: return costante_ == k_ ? 0 : p.colonna[costante_];
@@ -142,7 +169,15 @@ inline uint32_t CondizioneCompilata::Chiave(const Prefisso& p) const {
     return 0;
 }
 
-inline void CondizioneCompilata::Maschere(uint32_t chiave, int ultimo, Maschera128& sup, Maschera128& rec) const {
+inline uint32_t CondizioneCompilata::PesoDi(const Prefisso& p) const {
+    if (prefissoScelto_) return uint32_t(p.somma);
+    uint32_t v = 0;
+    for (int i = 1; i <= p.lunghezza; ++i)
+        if ((caselle_ >> (i - 1)) & 1) v += p.colonna[i];
+    return v;
+}
+
+[[gnu::always_inline]] inline void CondizioneCompilata::Maschere(uint32_t chiave, int ultimo, Maschera128& sup, Maschera128& rec) const {
     switch (genere_) {
     case Genere::Conta:
     case Genere::PerSomma:

@@ -14,6 +14,7 @@ EnumerazioneBlocchi::EnumerazioneBlocchi(const std::vector<int>& sel, int k)
 }
 
 void EnumerazioneBlocchi::Posiziona(uint64_t rango) {
+    rigaContata_ = false;
     finita_ = rango >= Combinazioni(n_, k_);
     if (finita_) return;
     // Unranking in lexicographic order: at each position skip the blocks of
@@ -35,7 +36,7 @@ void EnumerazioneBlocchi::Posiziona(uint64_t rango) {
 
 void EnumerazioneBlocchi::Ricostruisci(int da) {
     for (int r = da; r < k_ - 1; ++r)
-        stati_[size_t(r + 1)] = stati_[size_t(r)].Con(sel_[size_t(pos_[size_t(r)])]);
+        stati_[size_t(r + 1)].Estendi(stati_[size_t(r)], sel_[size_t(pos_[size_t(r)])]);
 }
 
 void EnumerazioneBlocchi::AvanzaPrefisso() {
@@ -48,6 +49,7 @@ void EnumerazioneBlocchi::AvanzaPrefisso() {
         return;
     }
     ++pos_[size_t(r)];
+    if (r < k_ - 2) rigaContata_ = false;  // a new row begins
     for (int q = r + 1; q < k_ - 1; ++q) pos_[size_t(q)] = pos_[size_t(q - 1)] + 1;
     Ricostruisci(r);
     prossimo_ = PrimoCandidato();

@@ -5,6 +5,7 @@
 // of the prefix is kept here, extended one number at a time, so that moving
 // to the next prefix costs one step, not a new column.
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -28,26 +29,25 @@ struct Prefisso {
     int32_t interruzioni = 0;    // neighbours of different parity
     Colonna colonna;             // the numbers in positions 1..lunghezza, 0 beyond
 
-    // The prefix one number longer; n must exceed the last number.
-    Prefisso Con(int n) const {
-        Prefisso p = *this;
-        p.colonna.Numeri[lunghezza] = uint8_t(n);
-        p.lunghezza = lunghezza + 1;
-        p.somma += n;
-        p.parita |= uint32_t(n & 1) << lunghezza;
-        p.numeri.Imposta(n);
-        if (lunghezza == 0) {
-            p.primo = n;
-        } else {
-            const int32_t gap = n - ultimo;
-            if (gap < p.distanzaMinima) p.distanzaMinima = gap;
-            if (gap > p.distanzaMassima) p.distanzaMassima = gap;
-            p.consecutivi += gap == 1;
-            p.ponti += gap == 2;
-            p.interruzioni += (n & 1) != (ultimo & 1);
-        }
-        p.ultimo = n;
-        return p;
+    // Becomes the prefix p followed by n (n above p's last number). Written
+    // without branches: it runs once per block of the development.
+    void Estendi(const Prefisso& p, int n) {
+        const bool vuoto = p.lunghezza == 0;
+        const int32_t gap = n - p.ultimo;
+        colonna = p.colonna;
+        colonna.Numeri[size_t(p.lunghezza)] = uint8_t(n);
+        lunghezza = p.lunghezza + 1;
+        somma = p.somma + n;
+        parita = p.parita | uint32_t(n & 1) << p.lunghezza;
+        numeri = p.numeri;
+        numeri.Imposta(n);
+        primo = vuoto ? n : p.primo;
+        ultimo = n;
+        distanzaMinima = vuoto ? kNessunaDistanza : std::min(p.distanzaMinima, gap);
+        distanzaMassima = vuoto ? 0 : std::max(p.distanzaMassima, gap);
+        consecutivi = p.consecutivi + (!vuoto && gap == 1);
+        ponti = p.ponti + (!vuoto && gap == 2);
+        interruzioni = p.interruzioni + (!vuoto && ((n ^ p.ultimo) & 1));
     }
 };
 

@@ -142,18 +142,26 @@ void Coordinatore::Calcola(uint64_t indice, Pezzo& pz, Banco& banco, uint64_t pa
     uint64_t superate = 0;
     while (inizio < fine) {
         const uint64_t passo = std::min(fine - inizio, kPassoProgresso);
-        banco.enumerazione.Percorri(passo, [&](const Prefisso& pr, Maschera128 candidati, bool intero) {
-            const Maschera128 ok = valutatore_.Giudica(pr, candidati, intero, banco.contatori, banco.lavagna);
-            if (!servonoColonne_) {
-                superate += uint64_t(ok.Conta());
-                return;
-            }
-            Colonna c = pr.colonna;
-            ok.PerOgni([&](int x) {
-                c.Numeri[size_t(k - 1)] = uint8_t(x);
-                pz.superate.push_back(c);
+        banco.enumerazione.Percorri(
+            passo,
+            [&](const Prefisso& q, int yPrimo, int yUltimo) {
+                valutatore_.ContaRiga(q, yPrimo, yUltimo, banco.lavagna);
+            },
+            [&](const Prefisso& pr, Maschera128 candidati, bool intero, bool contato) {
+                const auto conteggio = contato ? Valutatore::Conteggio::GiaContato
+                                               : (intero ? Valutatore::Conteggio::Intero
+                                                         : Valutatore::Conteggio::Tagliato);
+                const Maschera128 ok = valutatore_.Giudica(pr, candidati, conteggio, banco.contatori, banco.lavagna);
+                if (!servonoColonne_) {
+                    superate += uint64_t(ok.Conta());
+                    return;
+                }
+                Colonna c = pr.colonna;
+                ok.PerOgni([&](int x) {
+                    c.Numeri[size_t(k - 1)] = uint8_t(x);
+                    pz.superate.push_back(c);
+                });
             });
-        });
         pz.testatePasso.push_back(passo);
         pz.finePasso.push_back(servonoColonne_ ? pz.superate.size() : superate);
         inizio += passo;

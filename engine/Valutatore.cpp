@@ -9,6 +9,7 @@ namespace combi {
 namespace {
 
 constexpr size_t kUltimi = kMaxNumero + 1;  // the prefix's last number, 0..90
+constexpr uint32_t kBlocchiPerRiordino = 4096;
 
 }  // namespace
 
@@ -44,12 +45,14 @@ Valutatore::Valutatore(const TabellaCondizioni& tabella, const TabellaQuadri& qu
         if (!GiudicataSuElenco(tabella[i].Tipo) && !GiudicataSuIntervallo(tabella[i].Tipo)) continue;
         posto_[i] = int(condizioni_.size());
         basi_.push_back(basi_.empty() ? 0 : basi_.back() + condizioni_.back().Chiavi() * kUltimi);
+        basiRighe_.push_back(basiRighe_.empty() ? 0
+                                                : basiRighe_.back() + condizioni_.back().ChiaviRiga() *
+                                                                          CondizioneCompilata::kLarghezzaRiga);
         condizioni_.emplace_back(tabella[i], classe, numeri);
         indici_.push_back(int(i));
     }
-    Maschera128 scelti;
-    for (int n : numeri) scelti.Imposta(n);
-    for (int u = 0; u <= kMaxNumero; ++u) sopra_[size_t(u)] = scelti & Maschera128::Intervallo(u + 1, 127);
+    for (int n : numeri) scelti_.Imposta(n);
+    for (int u = 0; u <= kMaxNumero; ++u) sopra_[size_t(u)] = scelti_ & Maschera128::Intervallo(u + 1, 127);
     CompilaQuadri(tabella, quadri);
     CompilaGruppi(tabella);
 }
@@ -124,13 +127,18 @@ void Valutatore::CompilaGruppi(const TabellaCondizioni& tabella) {
 Valutatore::Lavagna Valutatore::NuovaLavagna() const {
     const size_t n = condizioni_.size();
     Lavagna l;
-    l.chiavi.resize(n);
     l.superate.resize(n);
     l.recuperabili.resize(n);
     l.gruppi.resize(gruppi_.size());
-    l.tallie.resize(basi_.empty() ? 0 : basi_.back() + condizioni_.back().Chiavi() * kUltimi);
+    l.tallie.resize(n == 0 ? 0 : basi_.back() + condizioni_.back().Chiavi() * kUltimi);
+    l.righe.resize(n == 0 ? 0
+                          : basiRighe_.back() + condizioni_.back().ChiaviRiga() * CondizioneCompilata::kLarghezzaRiga);
     l.primaChiave.assign(n, UINT32_MAX);
     l.ultimaChiave.assign(n, 0);
+    l.primaRiga.assign(n, UINT32_MAX);
+    l.ultimaRiga.assign(n, 0);
+    l.ordine = foglieSole_;
+    l.scarti.assign(foglieSole_.size(), 0);
     return l;
 }
 
@@ -140,12 +148,28 @@ Valutatore::Contatori Valutatore::NuoviContatori() const {
     return c;
 }
 
-inline void Valutatore::Maschere(int i, int ultimo, Lavagna& l) const {
-    condizioni_[size_t(i)].Maschere(l.chiavi[size_t(i)], ultimo, l.superate[size_t(i)], l.recuperabili[size_t(i)]);
+inline void Valutatore::Maschere(int i, const Prefisso& p, Lavagna& l) const {
+    const CondizioneCompilata& c = condizioni_[size_t(i)];
+    c.Maschere(c.Chiave(p), p.ultimo, l.superate[size_t(i)], l.recuperabili[size_t(i)]);
 }
 
-Maschera128 Valutatore::EsitoGruppo(const Gruppo& g, Lavagna& l, int ultimo) const {
-    for (int f : g.proprie) Maschere(f, ultimo, l);
+// For a condition whose recoverable mask no panel reads.
+inline void Valutatore::MaschereSup(int i, const Prefisso& p, Lavagna& l) const {
+    const CondizioneCompilata& c = condizioni_[size_t(i)];
+    l.superate[size_t(i)] = c.Superate(c.Chiave(p), p.ultimo);
+}
+
+CondizioneCompilata::Tallie Valutatore::TallieDi(size_t i, Lavagna& l) const {
+    return {l.tallie.data() + basi_[i], l.righe.data() + basiRighe_[i], &l.primaChiave[i], &l.ultimaChiave[i],
+            &l.primaRiga[i], &l.ultimaRiga[i]};
+}
+
+void Valutatore::ContaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna& l) const {
+    for (size_t i = 0; i < condizioni_.size(); ++i) condizioni_[i].ContaRiga(q, yPrimo, yUltimo, scelti_, TallieDi(i, l));
+}
+
+Maschera128 Valutatore::EsitoGruppo(const Gruppo& g, Lavagna& l, const Prefisso& p) const {
+    for (int f : g.proprie) MaschereSup(f, p, l);
     ConteggioMaschere conteggio(g.foglie.size() + g.figli.size());
     for (int f : g.foglie) conteggio.Aggiungi(l.superate[size_t(f)]);
     for (int f : g.figli) conteggio.Aggiungi(l.gruppi[size_t(f)]);
@@ -154,42 +178,42 @@ Maschera128 Valutatore::EsitoGruppo(const Gruppo& g, Lavagna& l, int ultimo) con
     return esito;
 }
 
-Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, bool intero, Contatori& contatori,
-                                Lavagna& l) const {
+Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, Conteggio conteggio,
+                                Contatori& contatori, Lavagna& l) const {
     const size_t n = condizioni_.size();
     const int u = p.ultimo;
     // The counters: every condition, on every candidate.
-    const CondizioneCompilata* cc = condizioni_.data();
-    uint32_t* chiavi = l.chiavi.data();
-    for (size_t i = 0; i < n; ++i) chiavi[i] = cc[i].Chiave(p);
-    if (intero) {
+    if (conteggio == Conteggio::Intero) {
         uint32_t* tallie = l.tallie.data() + size_t(u);
-        const size_t* basi = basi_.data();
-        uint32_t* prima = l.primaChiave.data();
-        uint32_t* ultima = l.ultimaChiave.data();
         for (size_t i = 0; i < n; ++i) {
-            ++tallie[basi[i] + chiavi[i] * kUltimi];
-            prima[i] = std::min(prima[i], chiavi[i]);
-            ultima[i] = std::max(ultima[i], chiavi[i]);
+            const uint32_t chiave = condizioni_[i].Chiave(p);
+            ++tallie[basi_[i] + chiave * kUltimi];
+            l.primaChiave[i] = std::min(l.primaChiave[i], chiave);
+            l.ultimaChiave[i] = std::max(l.ultimaChiave[i], chiave);
         }
-    } else {
+    } else if (conteggio == Conteggio::Tagliato) {
         for (size_t i = 0; i < n; ++i) {
-            Maschere(int(i), u, l);
+            Maschere(int(i), p, l);
             contatori.valori[i] += (l.superate[i] & candidati).Conta();
             contatori.valori[n + i] += (l.recuperabili[i] & candidati).Conta();
         }
     }
     // The verdict: one condition at a time while a candidate is left.
     Maschera128 esito = candidati;
-    for (int f : foglieSole_) {
-        Maschere(f, u, l);
+    if (++l.blocchi % kBlocchiPerRiordino == 0) Riordina(l);
+    for (size_t j = 0; j < l.ordine.size(); ++j) {
+        const int f = l.ordine[j];
+        MaschereSup(f, p, l);
         esito &= l.superate[size_t(f)];
-        if (esito.Vuota()) return esito;
+        if (esito.Vuota()) {
+            ++l.scarti[j];
+            return esito;
+        }
     }
     for (const Quadro& q : quadri_) {
         ConteggioMaschere conteggio(q.membri.size());
         for (int m : q.membri) {
-            Maschere(m, u, l);
+            Maschere(m, p, l);
             conteggio.Aggiungi(l.recuperabili[size_t(m)]);
         }
         Maschera128 dentro;
@@ -200,7 +224,7 @@ Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, bool i
         if (esito.Vuota()) return esito;
     }
     for (size_t g = 0; g < gruppi_.size(); ++g) {
-        l.gruppi[g] = EsitoGruppo(gruppi_[g], l, u);
+        l.gruppi[g] = EsitoGruppo(gruppi_[g], l, p);
         if (!gruppi_[g].finale) continue;
         esito &= l.gruppi[g];
         if (esito.Vuota()) return esito;
@@ -208,24 +232,59 @@ Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, bool i
     return esito;
 }
 
+// The order of the conditions tried alone changes no verdict, only how soon
+// a dead block is left: the ones that ended the most blocks go first.
+void Valutatore::Riordina(Lavagna& l) {
+    std::vector<std::pair<uint32_t, int>> voci;
+    for (size_t j = 0; j < l.ordine.size(); ++j) voci.push_back({l.scarti[j], l.ordine[j]});
+    std::stable_sort(voci.begin(), voci.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
+    for (size_t j = 0; j < voci.size(); ++j) l.ordine[j] = voci[j].second;
+    std::fill(l.scarti.begin(), l.scarti.end(), 0);
+}
+
 void Valutatore::Riversa(Lavagna& l, Contatori& contatori) const {
-    const size_t n = condizioni_.size();
-    for (size_t i = 0; i < n; ++i) {
-        if (l.primaChiave[i] > l.ultimaChiave[i]) continue;
-        for (uint32_t chiave = l.primaChiave[i]; chiave <= l.ultimaChiave[i]; ++chiave) {
-            uint32_t* riga = &l.tallie[basi_[i] + chiave * kUltimi];
-            for (size_t u = 0; u < kUltimi; ++u) {
-                if (riga[u] == 0) continue;
-                Maschera128 sup, rec;
-                condizioni_[i].Maschere(chiave, int(u), sup, rec);
-                contatori.valori[i] += int64_t(riga[u]) * (sup & sopra_[u]).Conta();
-                contatori.valori[n + i] += int64_t(riga[u]) * (rec & sopra_[u]).Conta();
-                riga[u] = 0;
-            }
-        }
-        l.primaChiave[i] = UINT32_MAX;
-        l.ultimaChiave[i] = 0;
+    for (size_t i = 0; i < condizioni_.size(); ++i) {
+        RiversaRighe(i, l);
+        RiversaChiavi(i, l, contatori);
     }
+}
+
+// The rows' differences summed over y into the blocks' tallies.
+void Valutatore::RiversaRighe(size_t i, Lavagna& l) const {
+    const CondizioneCompilata& c = condizioni_[i];
+    const CondizioneCompilata::Tallie t = TallieDi(i, l);
+    for (uint32_t riga = l.primaRiga[i]; riga <= l.ultimaRiga[i] && riga != UINT32_MAX; ++riga) {
+        int32_t* differenze = t.perRiga + riga * CondizioneCompilata::kLarghezzaRiga;
+        int64_t blocchi = 0;
+        for (size_t y = 0; y < CondizioneCompilata::kLarghezzaRiga; ++y) {
+            blocchi += differenze[y];
+            differenze[y] = 0;
+            if (blocchi == 0 || !scelti_.Contiene(int(y))) continue;
+            const uint32_t chiave = c.ChiaveDaRiga(riga, int(y));
+            t.perChiave[chiave * kUltimi + y] += uint32_t(blocchi);
+            l.primaChiave[i] = std::min(l.primaChiave[i], chiave);
+            l.ultimaChiave[i] = std::max(l.ultimaChiave[i], chiave);
+        }
+    }
+    l.primaRiga[i] = UINT32_MAX;
+    l.ultimaRiga[i] = 0;
+}
+
+void Valutatore::RiversaChiavi(size_t i, Lavagna& l, Contatori& contatori) const {
+    const size_t n = condizioni_.size();
+    for (uint32_t chiave = l.primaChiave[i]; chiave <= l.ultimaChiave[i] && chiave != UINT32_MAX; ++chiave) {
+        uint32_t* riga = &l.tallie[basi_[i] + chiave * kUltimi];
+        for (size_t u = 0; u < kUltimi; ++u) {
+            if (riga[u] == 0) continue;
+            Maschera128 sup, rec;
+            condizioni_[i].Maschere(chiave, int(u), sup, rec);
+            contatori.valori[i] += int64_t(riga[u]) * (sup & sopra_[u]).Conta();
+            contatori.valori[n + i] += int64_t(riga[u]) * (rec & sopra_[u]).Conta();
+            riga[u] = 0;
+        }
+    }
+    l.primaChiave[i] = UINT32_MAX;
+    l.ultimaChiave[i] = 0;
 }
 
 void Valutatore::ScriviContatori(const Contatori& c, uint64_t testate, TabellaCondizioni& tabella) const {

@@ -42,10 +42,22 @@ public:
     // One thread's working space: the keys and masks of the current block,
     // and per condition the tally of whole blocks by key and last number.
     struct Lavagna {
-        std::vector<uint32_t> chiavi;
         std::vector<Maschera128> superate, recuperabili, gruppi;
         std::vector<uint32_t> tallie;   // per condition from its base: [chiave * 91 + ultimo]
-        std::vector<uint32_t> primaChiave, ultimaChiave;  // keys tallied since the last Riversa
+        std::vector<int32_t> righe;     // per condition from its base: [riga * 92 + y], differences
+        std::vector<uint32_t> primaChiave, ultimaChiave, primaRiga, ultimaRiga;  // since the last Riversa
+        // The conditions that must pass on their own, in the order tried:
+        // the one that most often leaves no candidate first.
+        std::vector<int> ordine;
+        std::vector<uint32_t> scarti;  // blocks each one ended, since the last reordering
+        uint32_t blocchi = 0;
+    };
+
+    // How a block's outcomes reach the counters.
+    enum class Conteggio : uint8_t {
+        GiaContato,  // its row was tallied whole
+        Intero,      // tally it: the candidates are every picked number after the prefix
+        Tagliato,    // count it at once: the candidates are cut
     };
 
     // `numeri`: the picked numbers, ascending.
@@ -62,12 +74,14 @@ public:
     Lavagna NuovaLavagna() const;
     Contatori NuoviContatori() const;
 
+    // Tallies every block of the row of prefix q (k-2 numbers), whose y runs
+    // over the picked numbers yPrimo..yUltimo.
+    void ContaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna& lavagna) const;
+
     // The candidates (numbers for position k after the prefix of k-1 numbers)
-    // whose columns pass. `intero`: the candidates are every picked number
-    // above the prefix's last, so the block's outcomes may be tallied; a cut
-    // block adds them to the counters at once.
-    Maschera128 Giudica(const Prefisso& prefisso, Maschera128 candidati, bool intero, Contatori& contatori,
-                        Lavagna& lavagna) const;
+    // whose columns pass.
+    Maschera128 Giudica(const Prefisso& prefisso, Maschera128 candidati, Conteggio conteggio,
+                        Contatori& contatori, Lavagna& lavagna) const;
 
     // Adds the tallies into the counters and clears them.
     void Riversa(Lavagna& lavagna, Contatori& contatori) const;
@@ -81,12 +95,19 @@ private:
 
     void CompilaQuadri(const TabellaCondizioni& tabella, const TabellaQuadri& quadri);
     void CompilaGruppi(const TabellaCondizioni& tabella);
-    Maschera128 EsitoGruppo(const Gruppo& g, Lavagna& l, int ultimo) const;
-    void Maschere(int i, int ultimo, Lavagna& l) const;
+    Maschera128 EsitoGruppo(const Gruppo& g, Lavagna& l, const Prefisso& p) const;
+    void Maschere(int i, const Prefisso& p, Lavagna& l) const;
+    void MaschereSup(int i, const Prefisso& p, Lavagna& l) const;
+    CondizioneCompilata::Tallie TallieDi(size_t i, Lavagna& l) const;
+    void RiversaRighe(size_t i, Lavagna& l) const;
+    void RiversaChiavi(size_t i, Lavagna& l, Contatori& contatori) const;
+    static void Riordina(Lavagna& l);
 
     std::vector<CondizioneCompilata> condizioni_;  // the judged conditions, in table order
     std::vector<int> indici_;                      // their table indices
     std::vector<size_t> basi_;                     // where each one's tallies start
+    std::vector<size_t> basiRighe_;                // where each one's row tallies start
+    Maschera128 scelti_;
     std::vector<int> posto_;                       // table index -> position in condizioni_, -1
     std::vector<int> foglieSole_;      // must pass on their own, in no active panel
     std::vector<Quadro> quadri_;
