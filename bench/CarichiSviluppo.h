@@ -20,19 +20,25 @@ inline std::string OgniTerzo(int n) {
     return s;
 }
 
-// The mean sum of six numbers of 1..n, widened by a fraction each way and
-// cut to whole numbers (245-300 for 90 numbers and 10 %).
-inline std::string PesoIntorno(int n, double frazione) {
-    const double media = 6.0 * (n + 1) / 2.0;
+// The mean sum of a column of 1..n, widened by a fraction each way and cut
+// to whole numbers (245-300 for 90 numbers, class 6 and 10 %).
+inline std::string PesoIntorno(int n, int classe, double frazione) {
+    const double media = classe * (n + 1) / 2.0;
     return std::to_string(int(media * (1 - frazione))) + "-" + std::to_string(int(media * (1 + frazione)));
 }
 
-inline TestiGriglia GrigliaSelettiva(int n) {
+inline std::string Caselle(int classe) {
+    std::string s = "Caselle :\r\n";
+    for (int i = 1; i <= classe; ++i) s += (i > 1 ? "-" : "") + std::to_string(i);
+    return s;
+}
+
+inline TestiGriglia GrigliaSelettiva(int n, int classe = 6) {
     TestiGriglia g;
     g.colonne = {
         {"", "Punti Col.", OgniTerzo(n), "2-3", "1", "1"},
         {"", "Pari-Dispari", "Pari", "3", "4", "1"},
-        {"", "Peso", "Caselle :\r\n1-2-3-4-5-6", PesoIntorno(n, 0.10), "-", ""},
+        {"", "Peso", Caselle(classe), PesoIntorno(n, classe, 0.10), "-", ""},
         {"", "Ampiezza", "", std::to_string(n * 2 / 3) + "-" + std::to_string(n - 3), "-", ""},
         {"", "LinkOpen", "", "", "", ""},
         {"", "Consecutivi", "", "0", "", ""},
@@ -44,12 +50,12 @@ inline TestiGriglia GrigliaSelettiva(int n) {
     return g;
 }
 
-inline TestiGriglia GrigliaAmpia(int n) {
+inline TestiGriglia GrigliaAmpia(int n, int classe = 6) {
     TestiGriglia g;
     g.colonne = {
         {"", "Punti Col.", OgniTerzo(n), "1-2-3", "0-4", "1"},
         {"", "Pari-Dispari", "Pari", "2-3-4", "1-5", "1"},
-        {"", "Peso", "Caselle :\r\n1-2-3-4-5-6", PesoIntorno(n, 0.25), "-", ""},
+        {"", "Peso", Caselle(classe), PesoIntorno(n, classe, 0.25), "-", ""},
         {"", "Ampiezza", "", std::to_string(n / 2) + "-" + std::to_string(n - 1), "-", ""},
         {"", "LinkOpen", "", "", "", ""},
         {"", "Consecutivi", "", "1-2", "", ""},

@@ -1,79 +1,156 @@
-// Development speed, reference loop against the multi-core fast path, on a
-// 90-number class-6 system restricted to a stretch of its enumeration, with
-// eight typical conditions. Both print the same signature (tested, kept and
-// a hash of kept columns and counters), which must agree.
+// Development speed on the two measured workloads (selective and broad, over
+// 50 and 90 numbers, class 6), all in one run:
+//  - Riferimento: the plain loop. Over 90 numbers it would take minutes, so
+//    it runs on 16 shares of 1/1600 spread over the enumeration and its
+//    time is scaled to the whole system (the loop's cost per column does not
+//    depend on where the column lies);
+//  - Veloce: the fast path writing the kept columns to a columns file, on 1
+//    and 2 threads;
+//  - Conta: the fast path counting only;
+//  - Pavimento: the floor, writing the same number of bytes to the same
+//    folder (CF_CARTELLA_BENCH, else /dev/shm, else /tmp).
+// Classe7 reports the counting rate over 90 numbers in class 7 (7.5 billion
+// columns). Firma prints the signature (tested, kept, a hash of the kept
+// columns and the counters) of both paths on 36 numbers: they must agree.
 
 #include <benchmark/benchmark.h>
 
-#include <thread>
+#include <cstdlib>
+#include <filesystem>
+#include <map>
 
-#include "DecodificaCondizioni.h"
+#include "CarichiSviluppo.h"
+#include "ColonneInMemoria.h"
+#include "Conteggi.h"
+#include "ScritturaColonne.h"
 #include "Sviluppo.h"
 
-namespace combi {
+namespace combi::bench {
 namespace {
 
-ParametriSviluppo SistemaTipico() {
-    TestiGriglia g;
-    g.colonne = {
-        {"", "Punti Col.", "01-02-03-04-\r\n05-06-07-08-\r\n09-10-11-12", "0-1", "2", "1"},
-        {"", "Pari-Dispari", "Pari", "2-3-4", "1-5", "1"},
-        {"", "Peso", "Caselle :\r\n1-2-3-4-5-6", "200-320", "-", ""},
-        {"", "Ampiezza", "", "50-80", "-", ""},
-        {"", "Consecutivi", "", "0", "", ""},
-        {"", "Distanza Minima", "", "3-12", "-", ""},
-        {"", "LinkOpen", "", "", "", ""},
-        {"", "Vortice", "Diretto", "2-3-4", "1-5", "2"},
-        {"", "Interruzioni", "", "2-3-4", "1-5", "2"},
-        {"", "LinkClose", "", "1-2", "", ""},
-    };
-    g.quadri = {"1,1,-1", "1,2,-1"};
-    const SistemaDecodificato s = LeggiCondizioni(g);
-    ParametriSviluppo p;
-    for (int n = 1; n <= 90; ++n) p.numeri.push_back(n);
-    p.classe = 6;
-    p.condizioni = s.condizioni;
-    p.quadri = s.quadri;
-    return p;
+std::string Cartella() {
+    if (const char* c = std::getenv("CF_CARTELLA_BENCH")) return c;
+    return std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : "/tmp";
 }
 
-// One share of 2000 out of 622,614,630 columns: about 311,000 columns.
-constexpr Quota kTratto{1000, 2000};
+const ParametriSviluppo& CaricoDi(int n, bool ampio, int classe = 6) {
+    static std::map<std::tuple<int, bool, int>, ParametriSviluppo> carichi;
+    auto [it, nuovo] = carichi.try_emplace({n, ampio, classe});
+    if (nuovo) it->second = Carico(ampio ? GrigliaAmpia(n, classe) : GrigliaSelettiva(n, classe), n, classe);
+    return it->second;
+}
 
-uint64_t Firma(const RisultatoSviluppo& r) {
+// Kept columns of a workload, counted once.
+uint64_t TenuteDi(int n, bool ampio) {
+    static std::map<std::pair<int, bool>, uint64_t> tenute;
+    auto [it, nuovo] = tenute.try_emplace({n, ampio});
+    OsservatoreSviluppo muto;
+    if (nuovo) it->second = ContaSistema(CaricoDi(n, ampio), muto).tenute;
+    return it->second;
+}
+
+std::string FileColonne(const char* nome) { return Cartella() + "/cf-bench-" + nome + ".col"; }
+
+void Riporta(benchmark::State& state, uint64_t testate, uint64_t tenute) {
+    state.counters["colonne/s"] = benchmark::Counter(double(testate), benchmark::Counter::kIsIterationInvariantRate);
+    state.counters["tenute"] = double(tenute);
+}
+
+constexpr int kCampioni = 16;
+constexpr int kQuoteCampione = 1600;
+
+void BM_Riferimento(benchmark::State& state) {
+    const ParametriSviluppo& p = CaricoDi(int(state.range(0)), state.range(1) != 0);
+    const bool campione = p.numeri.size() > 50;
+    OsservatoreSviluppo muto;
+    uint64_t testate = 0, tenute = 0;
+    for (auto _ : state) {
+        testate = tenute = 0;
+        for (int i = 0; i < (campione ? kCampioni : 1); ++i) {
+            const Quota q = campione ? Quota{1 + i * (kQuoteCampione / kCampioni), kQuoteCampione} : Quota{};
+            const RisultatoSviluppo r = SviluppaSistemaRiferimento(p, muto, q);
+            testate += r.testate;
+            tenute += r.colonne.size();
+        }
+    }
+    Riporta(state, testate, tenute);
+    // The time of the whole system, by the share of it tested.
+    state.counters["quota"] = double(testate) / double(Combinazioni(int(p.numeri.size()), p.classe));
+}
+
+void BM_Veloce(benchmark::State& state) {
+    const ParametriSviluppo& p = CaricoDi(int(state.range(0)), state.range(1) != 0);
+    OsservatoreSviluppo muto;
+    EsitoSviluppo r;
+    for (auto _ : state) {
+        ScritturaColonne scrittura(FileColonne("veloce"));
+        r = SviluppaSistema(p, muto, &scrittura, {.thread = int(state.range(2)), .quota = {}});
+        scrittura.Concludi();
+    }
+    Riporta(state, r.testate, r.tenute);
+    std::filesystem::remove(FileColonne("veloce"));
+}
+
+void BM_Conta(benchmark::State& state) {
+    const ParametriSviluppo& p = CaricoDi(int(state.range(0)), state.range(1) != 0, int(state.range(3)));
+    OsservatoreSviluppo muto;
+    EsitoSviluppo r;
+    for (auto _ : state) r = ContaSistema(p, muto, {.thread = int(state.range(2)), .quota = {}});
+    Riporta(state, r.testate, r.tenute);
+}
+
+// The same number of bytes as the kept columns, written the same way to the
+// same folder: what the hardware needs at least.
+void BM_Pavimento(benchmark::State& state) {
+    const uint64_t tenute = TenuteDi(int(state.range(0)), state.range(1) != 0);
+    const std::vector<Colonna> blocco(kPassoProgresso);
+    for (auto _ : state) {
+        ScritturaColonne scrittura(FileColonne("pavimento"));
+        for (uint64_t scritte = 0; scritte < tenute; scritte += blocco.size())
+            scrittura.Accoda(std::span(blocco).first(std::min<uint64_t>(blocco.size(), tenute - scritte)));
+        scrittura.Concludi();
+    }
+    state.counters["tenute"] = double(tenute);
+    std::filesystem::remove(FileColonne("pavimento"));
+}
+
+uint64_t Firma(uint64_t testate, const std::vector<Colonna>& colonne, const TabellaCondizioni& condizioni) {
     uint64_t h = 1469598103934665603ull;
     auto mescola = [&h](uint64_t v) { h = (h ^ v) * 1099511628211ull; };
-    mescola(r.testate);
-    for (const Colonna& c : r.colonne)
+    mescola(testate);
+    for (const Colonna& c : colonne)
         for (uint8_t n : c.Numeri) mescola(n);
-    for (const Condizione& c : r.condizioni) mescola(uint64_t(c.ContaSuperate) << 32 | uint32_t(c.ContaRecuperabili));
+    for (const Condizione& c : condizioni) {
+        mescola(uint64_t(uint32_t(c.ContaFallite)));
+        mescola(uint64_t(c.ContaSuperate) << 32 | uint32_t(c.ContaRecuperabili));
+    }
     return h;
 }
 
-void Riporta(benchmark::State& state, const RisultatoSviluppo& r) {
-    state.counters["colonne/s"] = benchmark::Counter(double(r.testate), benchmark::Counter::kIsIterationInvariantRate);
-    state.counters["tenute"] = double(r.colonne.size());
-    state.counters["firma"] = double(Firma(r) % 1000000007ull);
-}
-
-void BM_SviluppoRiferimento(benchmark::State& state) {
-    const ParametriSviluppo p = SistemaTipico();
-    OsservatoreSviluppo oss;
+void BM_Firma(benchmark::State& state) {
+    const ParametriSviluppo& p = CaricoDi(36, state.range(0) != 0);
+    OsservatoreSviluppo muto;
     RisultatoSviluppo r;
-    for (auto _ : state) r = SviluppaSistemaRiferimento(p, oss, kTratto);
-    Riporta(state, r);
+    for (auto _ : state)
+        r = state.range(1) != 0 ? SviluppaSistemaRiferimento(p, muto) : SviluppaSistema(p, muto, {.thread = 2, .quota = {}});
+    Riporta(state, r.testate, r.colonne.size());
+    state.SetLabel("firma " + std::to_string(Firma(r.testate, r.colonne, r.condizioni)));
 }
 
-void BM_SviluppoVeloce(benchmark::State& state) {
-    const ParametriSviluppo p = SistemaTipico();
-    OsservatoreSviluppo oss;
-    RisultatoSviluppo r;
-    for (auto _ : state) r = SviluppaSistema(p, oss, {.thread = int(state.range(0)), .quota = kTratto});
-    Riporta(state, r);
-}
-
-BENCHMARK(BM_SviluppoRiferimento)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_SviluppoVeloce)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+// Arguments: numbers, broad (0 or 1), threads, class.
+BENCHMARK(BM_Riferimento)->Args({50, 0})->Args({50, 1})->Args({90, 0})->Args({90, 1})
+    ->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(BM_Veloce)->Args({50, 0, 1})->Args({50, 0, 2})->Args({50, 1, 1})->Args({50, 1, 2})
+    ->Args({90, 0, 2})->Args({90, 1, 2})->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_Conta)->Args({50, 0, 2, 6})->Args({50, 1, 2, 6})->Args({90, 0, 2, 6})->Args({90, 1, 2, 6})
+    ->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_Conta)->Name("BM_Classe7")->Args({90, 0, 2, 7})->Unit(benchmark::kMillisecond)->UseRealTime()
+    ->Iterations(1);
+BENCHMARK(BM_Pavimento)->Args({50, 0})->Args({50, 1})->Args({90, 0})->Args({90, 1})
+    ->Unit(benchmark::kMillisecond)->UseRealTime();
+// Arguments: broad (0 or 1), reference (0 or 1).
+BENCHMARK(BM_Firma)->Args({0, 1})->Args({0, 0})->Args({1, 1})->Args({1, 0})->Unit(benchmark::kMillisecond)
+    ->Iterations(1);
 
 }  // namespace
-}  // namespace combi
+}  // namespace combi::bench

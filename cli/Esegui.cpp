@@ -54,6 +54,12 @@ int Esegui(const Parole& parole, std::ostream& out, std::ostream& err) {
         } catch (const std::bad_alloc&) {
             err << "Errore " << kErroreMemoria << "- Memoria insufficiente\n";
             return 1;
+        } catch (const std::exception& e) {
+            // Anything else the system throws (a thread it refuses, a
+            // failed mapping) ends the command with its message, never the
+            // process with an abort.
+            err << "Errore imprevisto: " << e.what() << "\n";
+            return 1;
         }
     }
     err << "combifiltro-cli: comando sconosciuto \"" << parole[0] << "\"\n";

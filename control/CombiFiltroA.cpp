@@ -48,7 +48,6 @@ CombiFiltroA::CombiFiltroA(ArchivioProprieta* archivio, ServizioDialoghi* dialog
     }
     orologio_ = [] { return QDateTime::currentMSecsSinceEpoch() / 1000.0; };
     threadMotore_ = std::max(1u, std::thread::hardware_concurrency());
-    colonne_.assign(1, combi::Colonna{});
 
     CostruisciPannello();
     LayOutGrid();
@@ -90,18 +89,21 @@ void CombiFiltroA::setNumeroThreadsSviluppo(int16_t valore) {
 }
 
 int32_t CombiFiltroA::QuantitaColonne() const {
-    return colonne_.empty() ? 0 : static_cast<int32_t>(colonne_.size() - 1);
+    return static_cast<int32_t>(std::min<uint64_t>(colonne_.Quante(), INT32_MAX));
 }
 
 void CombiFiltroA::SetColonnaGrid(int32_t id) { griglia_->PortaInVista(id); }
 
 void CombiFiltroA::GetColonneSviluppo(std::vector<combi::Colonna>& aRetCol) const {
-    if (QuantitaColonne() > 0) aRetCol = colonne_;
+    if (QuantitaColonne() == 0) return;
+    const std::span<const combi::Colonna> colonne = colonne_.Colonne();
+    aRetCol.assign(1, combi::Colonna{});  // element 0 stays empty
+    aRetCol.insert(aRetCol.end(), colonne.begin(), colonne.end());
 }
 
 QString CombiFiltroA::GetColonnaSviluppo(int32_t id) const {
     if (id < 1 || id > QuantitaColonne()) return {};
-    return QString::fromStdString(combi::TestoColonna(colonne_[id], false));
+    return QString::fromStdString(combi::TestoColonna(colonne_.Colonne()[size_t(id) - 1], false));
 }
 
 void CombiFiltroA::GetNumeriSel(std::array<int16_t, 91>& aNum) const {
@@ -136,8 +138,8 @@ void CombiFiltroA::Deinit() {
 }
 
 void CombiFiltroA::ImpostaColonneSviluppo(std::vector<combi::Colonna> colonne) {
-    if (colonne.empty()) colonne.assign(1, combi::Colonna{});
-    colonne_ = std::move(colonne);
+    if (!colonne.empty()) colonne.erase(colonne.begin());  // element 0 is empty
+    colonne_.Sostituisci(std::move(colonne));
     AggiornaComandiColonne();
 }
 

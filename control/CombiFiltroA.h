@@ -22,6 +22,7 @@
 #include <vector>
 
 #include "Colonna.h"
+#include "ColonneSviluppate.h"
 #include "Condizione.h"
 #include "FileSistema.h"
 
@@ -93,6 +94,9 @@ public:
     // When columns are kept, `aRetCol` becomes 0..N with element 0 empty and
     // the kept columns at 1..N; otherwise it is left untouched.
     void GetColonneSviluppo(std::vector<combi::Colonna>& aRetCol) const;
+    // The kept columns 1..M as positions 0..M-1, without a copy: a large
+    // development keeps them in a mapped file. Valid until the next change.
+    std::span<const combi::Colonna> ColonneSviluppo() const { return colonne_.Colonne(); }
     // Column id as "03 17 45 88"; empty when id is not a kept column.
     QString GetColonnaSviluppo(int32_t id) const;
     // aNum[1..] the picked numbers ascending, the rest 0 (aNum[0] unused).
@@ -300,7 +304,7 @@ private:
     QString dirSistemi_;
     QString fileSistema_;
     bool modificato_ = false;
-    std::vector<combi::Colonna> colonne_;  // element 0 empty, kept columns 1..M
+    combi::ColonneSviluppate colonne_;  // the kept columns 1..M, held from position 0
     combi::TabellaCondizioni condizioniSviluppo_;
     int16_t motore_ = 0;
     int16_t numeroThreads_ = 5;

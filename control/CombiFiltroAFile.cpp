@@ -12,6 +12,7 @@
 
 #include "DecodificaCondizioni.h"
 #include "FileColonne.h"
+#include "ScritturaColonne.h"
 #include "FileSistema.h"
 #include "GrigliaCondizioni.h"
 #include "GrigliaNumeri.h"
@@ -91,7 +92,8 @@ void CombiFiltroA::SalvaFileColonne() {
         const QString scelto =
             DialogoSalva(*dialoghi_, dirSistemi_, "Salva colonne", kFiltroColonne, nome + ".col", ".col");
         if (scelto.trimmed().isEmpty()) return;
-        const std::vector<combi::Colonna> colonne(colonne_.begin() + 1, colonne_.end());
-        combi::ScriviFileColonne(scelto.toStdString(), colonne);
+        combi::ScritturaColonne file(scelto.toStdString());
+        file.Accoda(colonne_.Colonne());
+        file.Concludi();
     });
 }

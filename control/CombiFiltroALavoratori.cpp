@@ -29,14 +29,13 @@ void CombiFiltroA::AccodaFileColonne(const QString& file) {
     if (!combi::FileEsiste(file.toStdString())) return;
     const std::vector<combi::Colonna> lette = combi::LeggiFileColonne(file.toStdString());
     if (lette.empty()) return;
-    if (colonne_.empty()) colonne_.assign(1, combi::Colonna{});
-    colonne_.insert(colonne_.end(), lette.begin(), lette.end());
+    colonne_.Accoda(lette);
 }
 
 void CombiFiltroA::IniziaSviluppoEsterno() {
     motore_ = esterno;
     inizioEsterno_ = orologio_();
-    colonne_.assign(1, combi::Colonna{});
+    colonne_.Svuota();
     condizioniSviluppo_.clear();
     richiestaStop_ = false;
     for (QLineEdit* campo : txtMsgFromDll_) {
@@ -57,7 +56,7 @@ void CombiFiltroA::AnnullaSviluppoEsterno() {
             campo->clear();
         }
     }
-    colonne_.assign(1, combi::Colonna{});
+    colonne_.Svuota();
     if (inSviluppo_) ImpostaStatoSviluppo(false);
 }
 

@@ -308,7 +308,7 @@ void CombiFiltroA::Nuovo() {
     labCondizionate_->clear();
     cmbRid_->setCurrentIndex(0);
     fileSistema_.clear();
-    colonne_.assign(1, combi::Colonna{});
+    colonne_.Svuota();
     AggiornaComandiColonne();
     VoceMenu("Salva")->setEnabled(false);  // no file to save to
 }

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -23,19 +24,35 @@
 #include "UtilitaSchermo.h"
 #include "Utilita.h"
 
+// The engine calls back every 10000 columns, which can be tens of thousands
+// of times a second: after the first time, the counters are redrawn and
+// pending events run only as often as a user can see, and the final counts
+// are shown by the caller.
 class OsservatorePannello : public combi::OsservatoreSviluppo {
 public:
     explicit OsservatorePannello(CombiFiltroA& controllo) : controllo_(controllo) {}
 
     void Progresso(uint64_t testate, uint64_t tenute) override {
+        if (disegno_.isValid() && disegno_.elapsed() < kMillisecondiTraDisegni) return;
+        disegno_.start();
+        Mostra(testate, tenute);
+    }
+    bool RichiestaStop() override { return controllo_.richiestaStop_; }
+    void ElaboraMessaggi() override {
+        if (pompa_.isValid() && pompa_.elapsed() < kMillisecondiTraPompe) return;
+        pompa_.start();
+        QApplication::processEvents();
+    }
+    void Mostra(uint64_t testate, uint64_t tenute) {
         controllo_.labSviluppate_->setText(TestoContatore(static_cast<double>(testate)));
         controllo_.labCondizionate_->setText(TestoContatore(static_cast<double>(tenute)));
     }
-    bool RichiestaStop() override { return controllo_.richiestaStop_; }
-    void ElaboraMessaggi() override { QApplication::processEvents(); }
 
 private:
+    static constexpr qint64 kMillisecondiTraDisegni = 50;
+    static constexpr qint64 kMillisecondiTraPompe = 15;
     CombiFiltroA& controllo_;
+    QElapsedTimer disegno_, pompa_;
 };
 
 namespace {
@@ -74,7 +91,7 @@ void CombiFiltroA::GestSviluppo() {
 }
 
 void CombiFiltroA::SviluppoInterno() {
-    colonne_.assign(1, combi::Colonna{});
+    colonne_.Svuota();
     condizioniSviluppo_.clear();
     labSviluppate_->setText("0");
     labCondizionate_->setText("0");
@@ -94,11 +111,14 @@ void CombiFiltroA::SviluppoInterno() {
     OsservatorePannello osservatore(*this);
     combi::OpzioniSviluppo opzioni;
     opzioni.thread = threadMotore_;
-    combi::RisultatoSviluppo risultato = combi::SviluppaSistema(parametri, osservatore, opzioni);
-
-    colonne_.reserve(risultato.colonne.size() + 1);
-    colonne_.insert(colonne_.end(), risultato.colonne.begin(), risultato.colonne.end());
-    condizioniSviluppo_ = std::move(risultato.condizioni);
+    try {
+        combi::EsitoSviluppo esito = combi::SviluppaSistema(parametri, osservatore, &colonne_, opzioni);
+        osservatore.Mostra(esito.testate, esito.tenute);
+        condizioniSviluppo_ = std::move(esito.condizioni);
+    } catch (...) {
+        colonne_.Svuota();  // a failed run keeps no column
+        throw;
+    }
 }
 
 void CombiFiltroA::ChiediStop() {

@@ -29,7 +29,7 @@ std::string ControllaEstrazione(std::string_view testo) {
     return {};
 }
 
-EsitoSpoglio VerificaVincite(const std::vector<Colonna>& colonne, int classe, std::string_view estrazione,
+EsitoSpoglio VerificaVincite(std::span<const Colonna> colonne, int classe, std::string_view estrazione,
                              int puntiMinimi) {
     Rifiuta(estrazione);
     if (classe < 1 || classe > kMaxClasse)

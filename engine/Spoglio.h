@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -48,7 +49,7 @@ struct EsitoSpoglio {
 // equals the value of some drawn number: a number typed twice counts once.
 // Throws Errore when the text is refused (its message), or when the class is
 // outside 1..20 or the minimum below 1.
-EsitoSpoglio VerificaVincite(const std::vector<Colonna>& colonne, int classe, std::string_view estrazione,
+EsitoSpoglio VerificaVincite(std::span<const Colonna> colonne, int classe, std::string_view estrazione,
                              int puntiMinimi);
 
 // The drawn numbers as a column record in the order typed, for the check of

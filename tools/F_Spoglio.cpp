@@ -163,9 +163,7 @@ void F_Spoglio::Verifica() {
 }
 
 void F_Spoglio::VerificaVincite() {
-    std::vector<combi::Colonna> colonne;
-    controllo_.GetColonneSviluppo(colonne);
-    if (!colonne.empty()) colonne.erase(colonne.begin());  // element 0 is always empty
+    const std::span<const combi::Colonna> colonne = controllo_.ColonneSviluppo();
     const int classe = controllo_.classe();
     const int puntiMinimi = combi::LeggiInt16(cmbPuntiMin_->currentText().toStdString());
     // Cleared first: after a failure the winning list shows nothing stale.

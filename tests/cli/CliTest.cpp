@@ -3,11 +3,13 @@
 
 #include <unistd.h>
 
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "Comandi.h"
+#include "Terminale.h"
 #include "DecodificaCondizioni.h"
 #include "FileBinario.h"
 #include "FileSistema.h"
@@ -69,6 +71,16 @@ protected:
 
 std::vector<uint8_t> Byte(const std::string& percorso) { return LeggiFileBinario(percorso, 1u << 30); }
 
+// The count printed after `etichetta`, its thousands separators dropped.
+uint64_t Contatore(const std::string& testo, const std::string& etichetta) {
+    const size_t da = testo.find(etichetta);
+    if (da == std::string::npos) return UINT64_MAX;
+    std::string cifre;
+    for (size_t i = da + etichetta.size(); i < testo.size() && testo[i] != '\n'; ++i)
+        if (std::isdigit(static_cast<unsigned char>(testo[i]))) cifre += testo[i];
+    return std::stoull(cifre);
+}
+
 TEST_F(CliTest, FastAndReferenceDevelopmentsWriteIdenticalFiles) {
     for (int riduzione : {0, 2}) {
         ScriviSistemaCompleto(P("s.sic"), riduzione);
@@ -80,6 +92,12 @@ TEST_F(CliTest, FastAndReferenceDevelopmentsWriteIdenticalFiles) {
                           "--riferimento"}), 0) << err_.str();
         EXPECT_EQ(Byte(P("v.col")), Byte(P("r.col")));
         EXPECT_EQ(Byte(P("v.sic")), Byte(P("r.sic")));
+        // Counting gives the same counters and the same kept count, writing no column.
+        const std::string sviluppa = out_.str();
+        ASSERT_EQ(Esegui({"conta", P("s.sic"), "--contatori", P("c.sic"), "--thread", "2"}), 0) << err_.str();
+        EXPECT_EQ(Byte(P("c.sic")), Byte(P("r.sic")));
+        EXPECT_EQ(Contatore(out_.str(), "Condizionate : "), Byte(P("v.col")).size() / 20);
+        EXPECT_EQ(Contatore(sviluppa, "Condizionate : "), Byte(P("v.col")).size() / 20);
         EXPECT_GT(Byte(P("v.col")).size(), 0u);
         EXPECT_LT(Byte(P("v.col")).size(), 42504u * 20);
         const FileSistema contatori = LeggiFileSistema(P("v.sic"));
@@ -122,6 +140,11 @@ TEST_F(CliTest, BadArgumentsAndHostileFilesGiveAMessageNotACrash) {
         {{"sviluppa", P("tagliato.sic"), "--colonne", P("x.col")}, 1, "troncato"},
         {{"sviluppa", P("classe.sic"), "--colonne", P("x.col")}, 1, "classe"},
         {{"sviluppa", P("s.sic"), "--colonne", P("nessuna/x.col")}, 1, "Impossibile"},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--mpi", "--mpi"}, 2, "ripetuta"},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--thread", "2", "--thread", "3"}, 2, "ripetuta"},
+        {{"conta"}, 2, "un solo file"},
+        {{"conta", P("s.sic"), "--colonne", P("x.col")}, 2, "sconosciuta"},
+        {{"conta", P("manca.sic")}, 1, "Errore 53"},
         {{"info", P("s.txt")}, 2, "estensione"},
         {{"info"}, 2, "un solo file"},
     };
@@ -130,6 +153,22 @@ TEST_F(CliTest, BadArgumentsAndHostileFilesGiveAMessageNotACrash) {
         EXPECT_NE(err_.str().find(c.messaggio), std::string::npos) << c.messaggio << " in: " << err_.str();
     }
     EXPECT_FALSE(fs::exists(P("x.col")));
+}
+
+// The progress line worked out by hand: 2,500,000 of 10,000,000 columns in
+// 2 s is 25 % at 1,250,000 columns a second, 6 s to go.
+TEST(Terminale, ProgressLineShowsShareSpeedAndTimeLeft) {
+    EXPECT_EQ(cli::OsservatoreTerminale::Riga(2'500'000, 100'000, 10'000'000, 2.0),
+              "25 %   Sviluppate : 2,500,000   Condizionate : 100,000   1,250,000 colonne/s   mancano 00:00:06");
+    EXPECT_EQ(cli::OsservatoreTerminale::Riga(9'999'999, 3, 10'000'000, 1.0),
+              "99 %   Sviluppate : 9,999,999   Condizionate : 3   9,999,999 colonne/s   mancano 00:00:01");
+    EXPECT_EQ(cli::OsservatoreTerminale::Riga(0, 0, 10, 0.0), "0 %   Sviluppate : 0   Condizionate : 0");
+    // Off a terminal nothing is drawn, whatever the counts.
+    std::ostringstream err;
+    cli::OsservatoreTerminale spento(err, 100, false);
+    spento.Progresso(50, 5);
+    spento.Chiudi();
+    EXPECT_EQ(err.str(), "");
 }
 
 TEST_F(CliTest, InfoDescribesSystemsAndColumns) {

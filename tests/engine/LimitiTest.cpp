@@ -114,7 +114,7 @@ TEST_F(LimitiTest, ColumnsOutsideTheRules) {
     // The numbers need not be ascending there: the same set in any order.
     EXPECT_EQ(RiduciColonne({colonne[0], colonne[2]}, 6, o).colonne.size(), 1u);
     // The winnings check counts a column as it is stored: 91 matches nothing.
-    const EsitoSpoglio e = VerificaVincite({colonne[1], Col({200, 5, 1})}, 6, "1,5,90", 1);
+    const EsitoSpoglio e = VerificaVincite(std::vector<Colonna>{colonne[1], Col({200, 5, 1})}, 6, "1,5,90", 1);
     EXPECT_EQ(e.contatori[2], 2);
 }
 

@@ -63,7 +63,7 @@ TEST(Spoglio, ColumnsScoreEachPositionOnce) {
 }
 
 TEST(Spoglio, SummaryRunsFromTheClassDownToTheMinimum) {
-    const EsitoSpoglio e = VerificaVincite({Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 7, 8, 9})}, 6, "1,2,3,4", 3);
+    const EsitoSpoglio e = VerificaVincite(std::vector<Colonna>{Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 7, 8, 9})}, 6, "1,2,3,4", 3);
     EXPECT_EQ(e.riepilogo, (std::vector<RigaRiepilogo>{
                                {"Vincite con 6 punti ", 0}, {"Vincite con 5 punti ", 0},
                                {"Vincite con 4 punti ", 1}, {"Vincite con 3 punti ", 1}}));
@@ -79,11 +79,11 @@ TEST(Spoglio, SummaryRunsFromTheClassDownToTheMinimum) {
         if (p > 1) tutti += ',';
         tutti += std::to_string(p * 4);
     }
-    const EsitoSpoglio pieno = VerificaVincite({venti}, 20, tutti, 10);
+    const EsitoSpoglio pieno = VerificaVincite(std::vector<Colonna>{venti}, 20, tutti, 10);
     EXPECT_EQ(pieno.contatori[20], 1);
     EXPECT_EQ(pieno.riepilogo.front(), (RigaRiepilogo{"Vincite con 20 punti ", 1}));
     EXPECT_EQ(pieno.riepilogo.size(), 11u);
-    EXPECT_THROW(VerificaVincite({venti}, 21, "1", 1), Errore);
+    EXPECT_THROW(VerificaVincite(std::vector<Colonna>{venti}, 21, "1", 1), Errore);
 }
 
 TEST(Spoglio, DrawnNumbersBecomeAColumnInTypedOrder) {

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <system_error>
+
+#include "ColonneInMemoria.h"
 #include "Conteggi.h"
 #include "Errore.h"
 #include "VerificaColonna.h"
@@ -130,6 +133,27 @@ TEST(Sviluppo, AFailureDuringTheRunReachesTheCaller) {
         } catch (const Errore& e) {
             EXPECT_EQ(e.numero(), 7) << thread;
         }
+    }
+}
+
+// The system refusing a thread (std::system_error) must not end the process:
+// the run goes on with the threads that started and the calling thread.
+TEST(Sviluppo, AThreadThatCannotStartLeavesTheOthersToFinish) {
+    const ParametriSviluppo p = Sistema(24, 5, {{"", "Consecutivi", "", "0-1", "", ""},
+                                               {"", "Ampiezza", "", "8-20", "-", ""}});  // 42504 columns
+    Osservatore o;
+    const RisultatoSviluppo rif = SviluppaSistemaRiferimento(p, o);
+    for (int fallisce : {0, 1, 2}) {
+        int avviati = 0;
+        const AvviaThread avvia = [&](std::function<void()> lavoro) {
+            if (avviati++ == fallisce) throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again));
+            return std::thread(std::move(lavoro));
+        };
+        ColonneInMemoria colonne;
+        const EsitoSviluppo e = SviluppaSistema(p, o, &colonne, {.thread = 4, .quota = {}}, avvia);
+        EXPECT_EQ(colonne.colonne, rif.colonne) << fallisce;
+        EXPECT_EQ(e.condizioni, rif.condizioni) << fallisce;
+        EXPECT_EQ(avviati, fallisce + 1) << "no thread is started after a refusal";
     }
 }
 
