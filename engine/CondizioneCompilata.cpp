@@ -145,22 +145,6 @@ uint32_t CondizioneCompilata::RigaDi(const Prefisso& q) const {
     return 0;
 }
 
-uint32_t CondizioneCompilata::ChiaveDaRiga(uint32_t riga, int y) const {
-    switch (genere_) {
-    case Genere::Conta: return riga + uint32_t(insieme_.Contiene(y));
-    case Genere::Peso: return riga + (penultimaScelta_ ? uint32_t(y) : 0);
-    case Genere::PerSomma: return riga + uint32_t(y);
-    case Genere::Ampiezza: return k_ >= 3 ? riga : uint32_t(y);  // y is the first number in class 2
-    case Genere::Posizioni: return costante_ == k_ - 1 ? uint32_t(y) : riga;
-    case Genere::Parita: return (y & 1) ? riga >> 4 : riga & 15;
-    case Genere::Interruzioni: {
-        const uint32_t ultimo = riga % 3;
-        return riga / 3 + (ultimo < 2 && uint32_t(y & 1) != ultimo);
-    }
-    default: return riga;  // the gap kinds tally their exceptions as blocks
-    }
-}
-
 void CondizioneCompilata::ContaRiga(const Prefisso& q, int yPrimo, int yUltimo, const Maschera128& scelti,
                                     const Tallie& t) const {
     const auto intervallo = [&](uint32_t riga, int64_t da, int64_t a) {

@@ -53,6 +53,12 @@ public:
     // depends on q through a row key, and on y: Riga() is the key's bound,
     // ChiaveDaRiga the block key of row key and y.
     uint32_t ChiaviRiga() const { return chiaviRiga_; }
+    uint32_t RigaDi(const Prefisso& q) const;
+    // The key of the block of y in a row: `ultimo` is q's last number, 0
+    // for an empty q. Exact for every kind.
+    uint32_t ChiaveDelBlocco(uint32_t riga, int y, int ultimo) const;
+    // The same without q's last number: exact for every kind but the gaps',
+    // whose blocks that depend on it are tallied apart (ContaRiga).
     uint32_t ChiaveDaRiga(uint32_t riga, int y) const;
 
     // Where one thread tallies a condition's blocks.
@@ -91,7 +97,6 @@ private:
     void CompilaConta(const Condizione& c);
     void CompilaPerSomma(const Condizione& c, const std::vector<int>& numeri);
     void CompilaParita();
-    uint32_t RigaDi(const Prefisso& q) const;
     uint32_t ChiaviDelleRighe() const;
     uint32_t PesoDi(const Prefisso& p) const;
     void CompilaDistanze(Genere genere);
@@ -175,6 +180,35 @@ inline uint32_t CondizioneCompilata::PesoDi(const Prefisso& p) const {
     for (int i = 1; i <= p.lunghezza; ++i)
         if ((caselle_ >> (i - 1)) & 1) v += p.colonna[i];
     return v;
+}
+
+inline uint32_t CondizioneCompilata::ChiaveDaRiga(uint32_t riga, int y) const {
+    switch (genere_) {
+    case Genere::Conta: return riga + uint32_t(insieme_.Contiene(y));
+    case Genere::Peso: return riga + (penultimaScelta_ ? uint32_t(y) : 0);
+    case Genere::PerSomma: return riga + uint32_t(y);
+    case Genere::Ampiezza: return k_ >= 3 ? riga : uint32_t(y);  // y is the first number in class 2
+    case Genere::Posizioni: return costante_ == k_ - 1 ? uint32_t(y) : riga;
+    case Genere::Parita: return (y & 1) ? riga >> 4 : riga & 15;
+    case Genere::Interruzioni: {
+        const uint32_t ultimo = riga % 3;
+        return riga / 3 + (ultimo < 2 && uint32_t(y & 1) != ultimo);
+    }
+    default: return riga;  // the gap kinds tally their exceptions as blocks
+    }
+}
+
+[[gnu::always_inline]] inline uint32_t CondizioneCompilata::ChiaveDelBlocco(uint32_t riga, int y, int ultimo) const {
+    // An empty q (class 2): the block's prefix is y alone, with no gap.
+    const int32_t gap = y - ultimo;
+    switch (genere_) {
+    case Genere::Vicini: return riga + (ultimo != 0 && gap == scarto_);
+    case Genere::DistanzaMinima:
+        if (ultimo == 0) return dettaglio::kSenzaDistanza;
+        return riga == dettaglio::kSenzaDistanza ? uint32_t(gap) : std::min(riga, uint32_t(gap));
+    case Genere::DistanzaMassima: return ultimo == 0 ? 0 : std::max(riga, uint32_t(gap));
+    default: return ChiaveDaRiga(riga, y);
+    }
 }
 
 [[gnu::always_inline]] inline void CondizioneCompilata::Maschere(uint32_t chiave, int ultimo, Maschera128& sup, Maschera128& rec) const {

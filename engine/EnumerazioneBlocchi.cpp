@@ -14,7 +14,6 @@ EnumerazioneBlocchi::EnumerazioneBlocchi(const std::vector<int>& sel, int k)
 }
 
 void EnumerazioneBlocchi::Posiziona(uint64_t rango) {
-    rigaContata_ = false;
     finita_ = rango >= Combinazioni(n_, k_);
     if (finita_) return;
     // Unranking in lexicographic order: at each position skip the blocks of
@@ -49,7 +48,6 @@ void EnumerazioneBlocchi::AvanzaPrefisso() {
         return;
     }
     ++pos_[size_t(r)];
-    if (r < k_ - 2) rigaContata_ = false;  // a new row begins
     for (int q = r + 1; q < k_ - 1; ++q) pos_[size_t(q)] = pos_[size_t(q - 1)] + 1;
     Ricostruisci(r);
     prossimo_ = PrimoCandidato();

@@ -24,29 +24,29 @@ public:
     // Moves to the column of the given 0-based rank.
     void Posiziona(uint64_t rango);
 
-    // Walks the next `quante` columns (fewer at the end of the enumeration)
-    // block by block, calling blocco(prefisso, candidati, intero) once per
-    // block or piece of a block: the candidates are the numbers of position
-    // k in those columns, `intero` tells that they are the whole block. When
-    // a whole row (the blocks whose prefixes share their first k-2 numbers)
-    // lies in the stretch, riga(q, yPrimo, yUltimo) comes first, with the
-    // row's prefix and the range of its numbers at position k-1, and its
-    // blocks follow with `intero` = false and `contato` = true.
+    // Walks the next `quante` columns (fewer at the end of the enumeration).
+    // A whole row (the blocks whose prefixes share their first k-2 numbers)
+    // that lies in the stretch goes to riga(q, yPrimo, yUltimo) at once: the
+    // row's prefix q and the range of its numbers at position k-1. Every
+    // other block, or piece of a block, goes to blocco(prefisso, candidati,
+    // intero): the candidates are the numbers of position k in those columns,
+    // `intero` tells that they are the whole block.
     // Returns how many columns were walked.
     template <class R, class B>
     uint64_t Percorri(uint64_t quante, R&& riga, B&& blocco) {
         uint64_t fatte = 0;
         while (fatte < quante && !finita_) {
-            if (!rigaContata_ && InizioRiga() && DimensioneRiga() <= quante - fatte) {
+            if (InizioRiga() && DimensioneRiga() <= quante - fatte) {
                 riga(stati_[size_t(k_ - 2)], sel_[size_t(PrimoY())], sel_[size_t(n_ - 2)]);
-                rigaContata_ = true;
+                fatte += DimensioneRiga();
+                SaltaRiga();
+                continue;
             }
             const uint64_t n = std::min<uint64_t>(quante - fatte, uint64_t(n_ - prossimo_));
             const int ultimo = prossimo_ + int(n) - 1;
             const bool intero = prossimo_ == PrimoCandidato() && ultimo == n_ - 1;
             blocco(stati_[size_t(k_ - 1)],
-                   scelti_ & Maschera128::Intervallo(sel_[size_t(prossimo_)], sel_[size_t(ultimo)]), intero,
-                   rigaContata_);
+                   scelti_ & Maschera128::Intervallo(sel_[size_t(prossimo_)], sel_[size_t(ultimo)]), intero);
             fatte += n;
             prossimo_ = ultimo + 1;
             if (prossimo_ == n_) AvanzaPrefisso();
@@ -56,6 +56,11 @@ public:
 
 private:
     void AvanzaPrefisso();
+    // Moves past the current row: to the first column of the next one.
+    void SaltaRiga() {
+        pos_[size_t(k_ - 2)] = n_ - 2;
+        AvanzaPrefisso();
+    }
     // The index into sel_ of the block's first candidate.
     int PrimoCandidato() const { return k_ >= 2 ? pos_[size_t(k_ - 2)] + 1 : 0; }
     // The index into sel_ of the row's first number at position k-1.
@@ -79,7 +84,6 @@ private:
     std::array<Prefisso, kMaxClasse> stati_{};  // stati_[d]: the first d numbers
     int prossimo_ = 0;                         // index into sel_ of the next candidate
     bool finita_ = false;
-    bool rigaContata_ = false;  // the current row was handed to riga() whole
 };
 
 }  // namespace combi

@@ -142,25 +142,29 @@ void Coordinatore::Calcola(uint64_t indice, Pezzo& pz, Banco& banco, uint64_t pa
     uint64_t superate = 0;
     while (inizio < fine) {
         const uint64_t passo = std::min(fine - inizio, kPassoProgresso);
+        const auto tieni = [&](Colonna& c, Maschera128 ok) {
+            if (!servonoColonne_) {
+                superate += uint64_t(ok.Conta());
+                return;
+            }
+            ok.PerOgni([&](int x) {
+                c.Numeri[size_t(k - 1)] = uint8_t(x);
+                pz.superate.push_back(c);
+            });
+        };
         banco.enumerazione.Percorri(
             passo,
             [&](const Prefisso& q, int yPrimo, int yUltimo) {
-                valutatore_.ContaRiga(q, yPrimo, yUltimo, banco.lavagna);
-            },
-            [&](const Prefisso& pr, Maschera128 candidati, bool intero, bool contato) {
-                const auto conteggio = contato ? Valutatore::Conteggio::GiaContato
-                                               : (intero ? Valutatore::Conteggio::Intero
-                                                         : Valutatore::Conteggio::Tagliato);
-                const Maschera128 ok = valutatore_.Giudica(pr, candidati, conteggio, banco.contatori, banco.lavagna);
-                if (!servonoColonne_) {
-                    superate += uint64_t(ok.Conta());
-                    return;
+                valutatore_.GiudicaRiga(q, yPrimo, yUltimo, banco.lavagna);
+                Colonna c = q.colonna;
+                for (const auto& [y, ok] : banco.lavagna.esitiRiga) {
+                    c.Numeri[size_t(k - 2)] = uint8_t(y);
+                    tieni(c, ok);
                 }
+            },
+            [&](const Prefisso& pr, Maschera128 candidati, bool intero) {
                 Colonna c = pr.colonna;
-                ok.PerOgni([&](int x) {
-                    c.Numeri[size_t(k - 1)] = uint8_t(x);
-                    pz.superate.push_back(c);
-                });
+                tieni(c, valutatore_.Giudica(pr, candidati, intero, banco.contatori, banco.lavagna));
             });
         pz.testatePasso.push_back(passo);
         pz.finePasso.push_back(servonoColonne_ ? pz.superate.size() : superate);

@@ -138,6 +138,7 @@ Valutatore::Lavagna Valutatore::NuovaLavagna() const {
     l.primaRiga.assign(n, UINT32_MAX);
     l.ultimaRiga.assign(n, 0);
     l.ordine = foglieSole_;
+    l.righeBlocco.resize(n);
     l.scarti.assign(foglieSole_.size(), 0);
     return l;
 }
@@ -148,15 +149,13 @@ Valutatore::Contatori Valutatore::NuoviContatori() const {
     return c;
 }
 
-inline void Valutatore::Maschere(int i, const Prefisso& p, Lavagna& l) const {
-    const CondizioneCompilata& c = condizioni_[size_t(i)];
-    c.Maschere(c.Chiave(p), p.ultimo, l.superate[size_t(i)], l.recuperabili[size_t(i)]);
+inline void Valutatore::Maschere(int i, uint32_t chiave, int ultimo, Lavagna& l) const {
+    condizioni_[size_t(i)].Maschere(chiave, ultimo, l.superate[size_t(i)], l.recuperabili[size_t(i)]);
 }
 
 // For a condition whose recoverable mask no panel reads.
-inline void Valutatore::MaschereSup(int i, const Prefisso& p, Lavagna& l) const {
-    const CondizioneCompilata& c = condizioni_[size_t(i)];
-    l.superate[size_t(i)] = c.Superate(c.Chiave(p), p.ultimo);
+inline void Valutatore::MaschereSup(int i, uint32_t chiave, int ultimo, Lavagna& l) const {
+    l.superate[size_t(i)] = condizioni_[size_t(i)].Superate(chiave, ultimo);
 }
 
 CondizioneCompilata::Tallie Valutatore::TallieDi(size_t i, Lavagna& l) const {
@@ -164,46 +163,16 @@ CondizioneCompilata::Tallie Valutatore::TallieDi(size_t i, Lavagna& l) const {
             &l.primaRiga[i], &l.ultimaRiga[i]};
 }
 
-void Valutatore::ContaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna& l) const {
-    for (size_t i = 0; i < condizioni_.size(); ++i) condizioni_[i].ContaRiga(q, yPrimo, yUltimo, scelti_, TallieDi(i, l));
-}
-
-Maschera128 Valutatore::EsitoGruppo(const Gruppo& g, Lavagna& l, const Prefisso& p) const {
-    for (int f : g.proprie) MaschereSup(f, p, l);
-    ConteggioMaschere conteggio(g.foglie.size() + g.figli.size());
-    for (int f : g.foglie) conteggio.Aggiungi(l.superate[size_t(f)]);
-    for (int f : g.figli) conteggio.Aggiungi(l.gruppi[size_t(f)]);
-    Maschera128 esito;
-    for (int v : g.accettati) esito |= conteggio.Uguale(v);
-    return esito;
-}
-
-Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, Conteggio conteggio,
-                                Contatori& contatori, Lavagna& l) const {
-    const size_t n = condizioni_.size();
-    const int u = p.ultimo;
-    // The counters: every condition, on every candidate.
-    if (conteggio == Conteggio::Intero) {
-        uint32_t* tallie = l.tallie.data() + size_t(u);
-        for (size_t i = 0; i < n; ++i) {
-            const uint32_t chiave = condizioni_[i].Chiave(p);
-            ++tallie[basi_[i] + chiave * kUltimi];
-            l.primaChiave[i] = std::min(l.primaChiave[i], chiave);
-            l.ultimaChiave[i] = std::max(l.ultimaChiave[i], chiave);
-        }
-    } else if (conteggio == Conteggio::Tagliato) {
-        for (size_t i = 0; i < n; ++i) {
-            Maschere(int(i), p, l);
-            contatori.valori[i] += (l.superate[i] & candidati).Conta();
-            contatori.valori[n + i] += (l.recuperabili[i] & candidati).Conta();
-        }
-    }
-    // The verdict: one condition at a time while a candidate is left.
+// The verdict on the candidates after a prefix whose last number is `ultimo`:
+// one condition at a time while a candidate is left. chiave(i) gives the key
+// of condition i on this block.
+template <class Chiave>
+Maschera128 Valutatore::Verdetto(Maschera128 candidati, int ultimo, const Chiave& chiave, Lavagna& l) const {
     Maschera128 esito = candidati;
     if (++l.blocchi % kBlocchiPerRiordino == 0) Riordina(l);
     for (size_t j = 0; j < l.ordine.size(); ++j) {
         const int f = l.ordine[j];
-        MaschereSup(f, p, l);
+        MaschereSup(f, chiave(f), ultimo, l);
         esito &= l.superate[size_t(f)];
         if (esito.Vuota()) {
             ++l.scarti[j];
@@ -213,7 +182,7 @@ Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, Conteg
     for (const Quadro& q : quadri_) {
         ConteggioMaschere conteggio(q.membri.size());
         for (int m : q.membri) {
-            Maschere(m, p, l);
+            Maschere(m, chiave(m), ultimo, l);
             conteggio.Aggiungi(l.recuperabili[size_t(m)]);
         }
         Maschera128 dentro;
@@ -224,12 +193,58 @@ Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, Conteg
         if (esito.Vuota()) return esito;
     }
     for (size_t g = 0; g < gruppi_.size(); ++g) {
-        l.gruppi[g] = EsitoGruppo(gruppi_[g], l, p);
-        if (!gruppi_[g].finale) continue;
-        esito &= l.gruppi[g];
+        const Gruppo& gr = gruppi_[g];
+        for (int f : gr.proprie) MaschereSup(f, chiave(f), ultimo, l);
+        ConteggioMaschere conteggio(gr.foglie.size() + gr.figli.size());
+        for (int f : gr.foglie) conteggio.Aggiungi(l.superate[size_t(f)]);
+        for (int f : gr.figli) conteggio.Aggiungi(l.gruppi[size_t(f)]);
+        Maschera128 passa;
+        for (int v : gr.accettati) passa |= conteggio.Uguale(v);
+        l.gruppi[g] = passa;
+        if (!gr.finale) continue;
+        esito &= passa;
         if (esito.Vuota()) return esito;
     }
     return esito;
+}
+
+Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, bool intero, Contatori& contatori,
+                                Lavagna& l) const {
+    const size_t n = condizioni_.size();
+    const int u = p.ultimo;
+    // The counters: every condition, on every candidate.
+    if (intero) {
+        uint32_t* tallie = l.tallie.data() + size_t(u);
+        for (size_t i = 0; i < n; ++i) {
+            const uint32_t chiave = condizioni_[i].Chiave(p);
+            ++tallie[basi_[i] + chiave * kUltimi];
+            l.primaChiave[i] = std::min(l.primaChiave[i], chiave);
+            l.ultimaChiave[i] = std::max(l.ultimaChiave[i], chiave);
+        }
+    } else {
+        for (size_t i = 0; i < n; ++i) {
+            Maschere(int(i), condizioni_[i].Chiave(p), u, l);
+            contatori.valori[i] += (l.superate[i] & candidati).Conta();
+            contatori.valori[n + i] += (l.recuperabili[i] & candidati).Conta();
+        }
+    }
+    return Verdetto(candidati, u, [&](int i) { return condizioni_[size_t(i)].Chiave(p); }, l);
+}
+
+void Valutatore::GiudicaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna& l) const {
+    const size_t n = condizioni_.size();
+    for (size_t i = 0; i < n; ++i) {
+        condizioni_[i].ContaRiga(q, yPrimo, yUltimo, scelti_, TallieDi(i, l));
+        l.righeBlocco[i] = condizioni_[i].RigaDi(q);
+    }
+    l.esitiRiga.clear();
+    const int c = q.ultimo;
+    (scelti_ & Maschera128::Intervallo(yPrimo, yUltimo)).PerOgni([&](int y) {
+        const Maschera128 esito = Verdetto(sopra_[size_t(y)], y, [&](int i) {
+            return condizioni_[size_t(i)].ChiaveDelBlocco(l.righeBlocco[size_t(i)], y, c);
+        }, l);
+        if (!esito.Vuota()) l.esitiRiga.push_back({y, esito});
+    });
 }
 
 // The order of the conditions tried alone changes no verdict, only how soon

@@ -51,13 +51,9 @@ public:
         std::vector<int> ordine;
         std::vector<uint32_t> scarti;  // blocks each one ended, since the last reordering
         uint32_t blocchi = 0;
-    };
-
-    // How a block's outcomes reach the counters.
-    enum class Conteggio : uint8_t {
-        GiaContato,  // its row was tallied whole
-        Intero,      // tally it: the candidates are every picked number after the prefix
-        Tagliato,    // count it at once: the candidates are cut
+        std::vector<uint32_t> righeBlocco;  // the row keys of the current row
+        // The blocks of the last row judged that keep a column: y and the candidates kept.
+        std::vector<std::pair<int, Maschera128>> esitiRiga;
     };
 
     // `numeri`: the picked numbers, ascending.
@@ -74,14 +70,17 @@ public:
     Lavagna NuovaLavagna() const;
     Contatori NuoviContatori() const;
 
-    // Tallies every block of the row of prefix q (k-2 numbers), whose y runs
-    // over the picked numbers yPrimo..yUltimo.
-    void ContaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna& lavagna) const;
+    // Judges a whole row: the blocks whose prefix is q (k-2 numbers) and a
+    // number y among the picked ones in yPrimo..yUltimo. The counters are
+    // tallied; the blocks that keep a column are left in lavagna.esitiRiga.
+    void GiudicaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna& lavagna) const;
 
     // The candidates (numbers for position k after the prefix of k-1 numbers)
-    // whose columns pass.
-    Maschera128 Giudica(const Prefisso& prefisso, Maschera128 candidati, Conteggio conteggio,
-                        Contatori& contatori, Lavagna& lavagna) const;
+    // whose columns pass. `intero`: the candidates are every picked number
+    // above the prefix's last, so the block's outcomes may be tallied; a cut
+    // block adds them to the counters at once.
+    Maschera128 Giudica(const Prefisso& prefisso, Maschera128 candidati, bool intero, Contatori& contatori,
+                        Lavagna& lavagna) const;
 
     // Adds the tallies into the counters and clears them.
     void Riversa(Lavagna& lavagna, Contatori& contatori) const;
@@ -95,9 +94,10 @@ private:
 
     void CompilaQuadri(const TabellaCondizioni& tabella, const TabellaQuadri& quadri);
     void CompilaGruppi(const TabellaCondizioni& tabella);
-    Maschera128 EsitoGruppo(const Gruppo& g, Lavagna& l, const Prefisso& p) const;
-    void Maschere(int i, const Prefisso& p, Lavagna& l) const;
-    void MaschereSup(int i, const Prefisso& p, Lavagna& l) const;
+    template <class Chiave>
+    Maschera128 Verdetto(Maschera128 candidati, int ultimo, const Chiave& chiave, Lavagna& l) const;
+    void Maschere(int i, uint32_t chiave, int ultimo, Lavagna& l) const;
+    void MaschereSup(int i, uint32_t chiave, int ultimo, Lavagna& l) const;
     CondizioneCompilata::Tallie TallieDi(size_t i, Lavagna& l) const;
     void RiversaRighe(size_t i, Lavagna& l) const;
     void RiversaChiavi(size_t i, Lavagna& l, Contatori& contatori) const;
