@@ -1,11 +1,7 @@
 #pragma once
-// The report of a development worker to whoever started it: one line per
-// progress step and one at the end, on standard output, flushed at once so
-// that the starter sees them while the worker runs.
-//
-//   testate 120000        columns tested so far
-//   tenute 345            columns kept so far
-//   fine /tmp/SistCond2.col   the columns file is complete
+// The report of a development worker to whoever started it: the lines of
+// ProtocolloLavoratori, two per progress step and one at the end, on standard
+// output, flushed at once so that the starter sees them while the worker runs.
 
 #include <iosfwd>
 #include <string>

@@ -1,50 +1,23 @@
 #include "Condizione.h"
 
-#include <array>
-#include <string_view>
+#include "TipiCondizione.h"
 
 namespace combi {
 
-namespace {
-
-constexpr std::array<std::string_view, 19> kNomi = {
-    "",           "LinkOpen",     "LinkClose",  "Punti Col.",      "Pari-Dispari",
-    "Peso",       "Resto",        "Ampiezza",   "Vortice",         "Simmetrie",
-    "Consecutivi", "Interruzioni", "Baricentro", "Distanza Minima", "Distanza Massima",
-    "Posizioni",  "Ponte",        "Sequenze",   "Paralleli",
-};
-
-}  // namespace
-
 std::string NomeTipoCondizione(int codice) {
-    if (codice < 1 || codice >= static_cast<int>(kNomi.size())) return {};
-    return std::string(kNomi[codice]);
+    if (codice < 1) return {};
+    const DescrizioneTipo* d = DescrizioneDelTipo(codice);
+    return d ? std::string(d->nome) : std::string();
 }
 
 int CodiceTipoCondizione(const std::string& nome) {
-    for (int codice = 1; codice < static_cast<int>(kNomi.size()); ++codice)
-        if (kNomi[codice] == nome) return codice;
+    for (const DescrizioneTipo& d : kTipiCondizione)
+        if (d.codice != kNessuna && d.nome == nome) return d.codice;
     return kNessuna;
 }
 
-bool GiudicataSuElenco(int tipo) {
-    switch (tipo) {
-    case kPuntiColonna: case kPariDispari: case kResto: case kVortice: case kSimmetrie:
-    case kConsecutivi: case kInterruzioni: case kPonte: case kSequenze: case kParalleli:
-        return true;
-    default:
-        return false;
-    }
-}
+bool GiudicataSuElenco(int tipo) { return GiudizioDelTipo(tipo) == Giudizio::Elenco; }
 
-bool GiudicataSuIntervallo(int tipo) {
-    switch (tipo) {
-    case kPeso: case kAmpiezza: case kBaricentro: case kDistanzaMinima:
-    case kDistanzaMassima: case kPosizioni:
-        return true;
-    default:
-        return false;
-    }
-}
+bool GiudicataSuIntervallo(int tipo) { return GiudizioDelTipo(tipo) == Giudizio::Intervallo; }
 
 }  // namespace combi

@@ -1,7 +1,7 @@
 #include "LetturaNumero.h"
 
 #include <cmath>
-#include <cstdlib>
+#include <charconv>
 #include <limits>
 #include <string>
 
@@ -39,8 +39,15 @@ double LeggiNumero(std::string_view testo) {
         haCifre = haCifre || j > dopoPunto;
     }
     if (!haCifre) return 0.0;
-    const std::string numero(testo.substr(inizio, i - inizio));
-    return std::strtod(numero.c_str(), nullptr);
+    // from_chars reads "." as the decimal point whatever the locale, where
+    // strtod would follow the desktop's (a "," on an Italian one). It takes
+    // neither a "+" nor a bare trailing ".", so both are left out.
+    std::string_view numero = testo.substr(inizio, i - inizio);
+    if (numero.front() == '+') numero.remove_prefix(1);
+    if (numero.back() == '.') numero.remove_suffix(1);
+    double valore = 0.0;
+    std::from_chars(numero.data(), numero.data() + numero.size(), valore);
+    return valore;
 }
 
 int32_t ArrotondaInt32(double valore) { return Arrotonda<int32_t>(valore); }

@@ -6,6 +6,7 @@
 
 #include "FileSistema.h"
 #include "LetturaNumero.h"
+#include "ProtocolloLavoratori.h"
 #include "SegnalazioneErrori.h"
 #include "ServizioDialoghi.h"
 #include "Utilita.h"
@@ -99,14 +100,13 @@ void SviluppoParallelo::AvviaLavoratore(int i, int lavoratori) {
 void SviluppoParallelo::LeggiRapporto(int i) {
     QProcess* p = Lavoratore(i);
     while (p && p->canReadLine()) {
-        const QString riga = QString::fromUtf8(p->readLine()).trimmed();
-        const QString valore = riga.section(' ', 1);
-        if (riga.startsWith("testate ")) {
-            controllo_.TxtPMin(i)->setText(valore);
-        } else if (riga.startsWith("tenute ")) {
-            controllo_.TxtPMax(i)->setText(valore);
-        } else if (riga.startsWith("fine ")) {
-            fileColonne_[i] = valore;
+        const std::optional<combi::RigaRapporto> riga = combi::LeggiRigaRapporto(p->readLine().toStdString());
+        if (!riga) continue;
+        const QString numero = QString::number(riga->numero);
+        switch (riga->tipo) {
+        case combi::RigaRapporto::Tipo::Testate: controllo_.TxtPMin(i)->setText(numero); break;
+        case combi::RigaRapporto::Tipo::Tenute: controllo_.TxtPMax(i)->setText(numero); break;
+        case combi::RigaRapporto::Tipo::Fine: fileColonne_[i] = QString::fromStdString(riga->file); break;
         }
     }
 }

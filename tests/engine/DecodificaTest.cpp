@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <clocale>
+
 #include "DecodificaCondizioni.h"
 #include "LetturaNumero.h"
 
@@ -11,18 +13,25 @@ TestiCondizione Testi(const std::string& nome, const std::string& parametri, con
     return {"", nome, parametri, punti, recupero, quadro};
 }
 
-TEST(LetturaNumero, LeadingNumberRoundsHalvesToEven) {
+// The same readings on a desktop whose locale writes decimals with a comma:
+// "3.7" is 3.7 there too (scripts/dipendenze.sh installs it_IT.UTF-8).
+TEST(LetturaNumero, LeadingNumberRoundsHalvesToEvenInAnyLocale) {
     struct Caso { const char* testo; double valore; int32_t intero; };
     const Caso casi[] = {
         {"12", 12, 12},     {"  7abc", 7, 7},  {"", 0, 0},         {"abc", 0, 0},
         {"2,5", 2, 2},      {"2.5", 2.5, 2},   {"3.5", 3.5, 4},    {"-1", -1, -1},
         {"-0", 0, 0},       {"\r\n45", 45, 45}, {"-", 0, 0},       {".5", 0.5, 0},
+        {"3.7", 3.7, 4},    {"+4", 4, 4},      {"7.", 7, 7},       {"-2.5x", -2.5, -2},
         {"99999999999", 99999999999.0, INT32_MAX},
     };
-    for (const Caso& c : casi) {
-        EXPECT_DOUBLE_EQ(LeggiNumero(c.testo), c.valore) << c.testo;
-        EXPECT_EQ(LeggiInt32(c.testo), c.intero) << c.testo;
+    for (const char* locale : {"C", "it_IT.UTF-8"}) {
+        ASSERT_NE(std::setlocale(LC_ALL, locale), nullptr) << locale << " is missing: run scripts/dipendenze.sh";
+        for (const Caso& c : casi) {
+            EXPECT_DOUBLE_EQ(LeggiNumero(c.testo), c.valore) << c.testo << " " << locale;
+            EXPECT_EQ(LeggiInt32(c.testo), c.intero) << c.testo << " " << locale;
+        }
     }
+    std::setlocale(LC_ALL, "C");
 }
 
 TEST(Decodifica, ListsSetTheIndexedElements) {
