@@ -4,6 +4,7 @@
 // events run, so the window stays alive and "Stop" can be pressed.
 
 #include "CombiFiltroA.h"
+#include "Messaggi.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -76,7 +77,7 @@ void CombiFiltroA::GestSviluppo() {
     EseguiProtetta(*dialoghi_, "CombiFiltro.GestSviluppo", [&] {
         const int classe = combi::LeggiInt16(cmbClasse_->currentText().toStdString());
         if (classe > ContaNumeriSel()) {
-            dialoghi_->Esclamazione(QString(), "Impostare il pronostico");
+            dialoghi_->Esclamazione(QString(), QString::fromUtf8(combi::kImpostarePronostico));
             return;
         }
         motore_ = interno;

@@ -1,4 +1,5 @@
 #include "DistribuzioneMisura.h"
+#include "Messaggi.h"
 
 #include "Errore.h"
 #include "Misure.h"
@@ -7,7 +8,7 @@ namespace {
 
 const std::vector<int>& Verificati(const std::vector<int>& numeri, int classe) {
     if (classe < 1 || classe > combi::kMaxClasse || static_cast<int>(numeri.size()) < classe) {
-        throw combi::Errore(combi::kErroreArgomento, "Impostare il pronostico");
+        throw combi::Errore(combi::kErroreArgomento, std::string(combi::kImpostarePronostico));
     }
     return numeri;
 }

@@ -2,14 +2,9 @@
 
 #include <map>
 
+#include "Condizione.h"
+
 namespace combi {
-
-namespace {
-
-const std::string kLinkOpen = "LinkOpen";
-const std::string kLinkClose = "LinkClose";
-
-}  // namespace
 
 std::vector<NodoSistema> CostruisciAlberoSistema(const std::vector<TestiCondizione>& colonne) {
     std::vector<NodoSistema> nodi{{kChiaveRadice, "Sistema", 0, ""}};
@@ -21,11 +16,12 @@ std::vector<NodoSistema> CostruisciAlberoSistema(const std::vector<TestiCondizio
         const int c = int(i) + 1;
         NodoSistema nodo{"Cond" + std::to_string(c), nome, c, corrente};
         genitoreDi[nodo.chiave] = corrente;
-        if (nome == kLinkOpen) {
+        const int tipo = CodiceTipoCondizione(nome);
+        if (tipo == kLinkOpen) {
             corrente = nodo.chiave;
-        } else if (nome == kLinkClose) {
+        } else if (tipo == kLinkClose) {
             if (corrente != kChiaveRadice) corrente = genitoreDi[corrente];
-            nodo.testo = kLinkClose + " (" + colonne[i][kRigaPunti] + ")";
+            nodo.testo = nome + " (" + colonne[i][kRigaPunti] + ")";
         }
         nodi.push_back(std::move(nodo));
     }

@@ -33,8 +33,8 @@ std::string TestoSequenza(const Condizione& c) {
 
 std::string Parametri(const Condizione& c) {
     switch (c.Tipo) {
-    case kLinkOpen: return Verticale("LinkOpen");
-    case kLinkClose: return Verticale("LinkClose");
+    case kLinkOpen:
+    case kLinkClose: return Verticale(NomeTipoCondizione(c.Tipo));
     case kPuntiColonna: return TestoNumeriColonna(c.Numeri);
     case kPariDispari: return c.Numeri[2] != 0 ? "Pari" : (c.Numeri[1] != 0 ? "Dispari" : "");
     case kPeso: return "Caselle :" + kACapo + TestoPosizioni(c.Numeri);

@@ -2,6 +2,7 @@
 // shares of the enumeration and the wrappers that hold the columns in memory.
 
 #include "Sviluppo.h"
+#include "Messaggi.h"
 
 #include "ColonneInMemoria.h"
 #include "Errore.h"
@@ -30,7 +31,7 @@ void ControllaParametri(const ParametriSviluppo& p, const Quota& quota) {
             throw Errore(kErroreArgomento, "I numeri del pronostico devono essere crescenti tra 1 e 90");
     }
     if (p.classe > static_cast<int>(p.numeri.size()))
-        throw Errore(kErroreArgomento, "Impostare il pronostico");
+        throw Errore(kErroreArgomento, std::string(kImpostarePronostico));
     if (p.condizioni.empty())
         throw Errore(kErroreArgomento, "Tabella delle condizioni vuota");
     if (quota.di < 1 || quota.indice < 1 || quota.indice > quota.di)

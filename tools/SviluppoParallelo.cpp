@@ -1,4 +1,5 @@
 #include "SviluppoParallelo.h"
+#include "Messaggi.h"
 
 #include "CombiFiltroA.h"
 
@@ -50,7 +51,7 @@ QProcess* SviluppoParallelo::Lavoratore(int i) const {
 void SviluppoParallelo::Avvia() {
     if (inCorso_ || controllo_.InSviluppo()) return;
     if (controllo_.classe() > controllo_.ContaNumeriSel()) {
-        dialoghi_.Esclamazione(QString(), "Impostare il pronostico");
+        dialoghi_.Esclamazione(QString(), QString::fromUtf8(combi::kImpostarePronostico));
         return;
     }
     const int lavoratori = LavoratoriDisponibili(controllo_);
