@@ -12,8 +12,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ColonneInFile.h"
 #include "CombiFiltroA.h"
-#include "FileColonne.h"
 #include "Riduzione.h"
 #include "ServizioDialoghi.h"
 #include "UtilitaSchermo.h"
@@ -127,8 +127,8 @@ void F_Riduzione::ScegliFile() {
     const QString file = DialogoApri(dialoghi_, cartella, "Apri file", "File colonne (*.col)|*.col", "*.col", ".col");
     if (file.isEmpty() || !QFileInfo::exists(file)) return;
     labFile_->setText(file);
-    const std::optional<double> quante = combi::GetNumeroColonneInFile(file.toStdString());
-    labColonne_->setText(QString::number(quante.value_or(0), 'g', 15));
+    const std::optional<double> quante = GetNumeroColonneInFile(file, dialoghi_);
+    labColonne_->setText(quante ? QString::number(*quante, 'g', 15) : QString());
 }
 
 void F_Riduzione::AbilitaScelte(bool abilita) {

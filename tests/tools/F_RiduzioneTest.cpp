@@ -151,6 +151,16 @@ TEST(F_Riduzione, OpensWithThreeGuaranteesAndReadsTheChosenFile) {
     r.Scegli(r.cartella.filePath("Sparito.col"));
     EXPECT_EQ(r.f.labFile()->text(), troncato.fileName());
     EXPECT_TRUE(r.b.dialoghi.boxes.empty());
+
+    // A name that exists but cannot be read as a file: reported, no count.
+    const QString cartella = r.cartella.filePath("Cartella.col");
+    ASSERT_TRUE(QDir().mkdir(cartella));
+    r.Scegli(cartella);
+    ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
+    EXPECT_EQ(r.b.dialoghi.boxes[0].tipo, "critico");
+    EXPECT_EQ(r.b.dialoghi.boxes[0].titolo, "Mod_Sviluppo.GetNumeroColonneInFile");
+    EXPECT_EQ(r.b.dialoghi.boxes[0].testo, "75- Impossibile leggere il file: " + cartella);
+    EXPECT_TRUE(r.f.LabColonne()->text().isEmpty());
 }
 
 TEST(F_Riduzione, KeepsTheEngineColumnsForEachGuarantee) {
