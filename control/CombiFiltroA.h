@@ -130,9 +130,10 @@ public:
     // Column reduction: reduces the columns file `sFileCol` so that every
     // dropped column shares at least `nPuntiRichiesti` (1..6) of its first six
     // numbers with a kept one; the columns left replace the developed ones.
-    // Events are pumped after every step, so the window stays alive and
-    // StopRiduciColonne can end the run early (the columns not yet eliminated
-    // are kept). A missing or empty file is only reported; a failure is
+    // The reduction window shows the phases and the percentage (one is
+    // opened when none is). Events are pumped after every step, so the
+    // window stays alive and StopRiduciColonne can end the run early (the
+    // columns not yet eliminated are kept). A missing or empty file is only reported; a failure is
     // reported as "CombiFiltro.RiduciColonne" and changes nothing.
     void RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti);
     void StopRiduciColonne();
@@ -223,7 +224,8 @@ public:
     // "VisualizzaColonne", "Naviga", "EffettoCondizioni", "ConfrontoCondSuCol",
     // "Riduzione"); without one the command says it is not available yet.
     // "AggiornaNavigatore" is called after a condition is deleted;
-    // "StopLavoratori" when "Stop" is confirmed during an external development.
+    // "StopLavoratori" when "Stop" is confirmed during an external development;
+    // "ApriFinestraRiduzione" when a reduction starts with no window to show it.
     void RegistraComando(const QString& chiave, std::function<void()> gestore);
     // The clock of the development time, in seconds (tests fake it).
     void ImpostaOrologio(std::function<double()> orologio) { orologio_ = std::move(orologio); }
@@ -264,6 +266,8 @@ private:
 
     // Development (CombiFiltroASviluppo.cpp)
     void SviluppoInterno();
+    // The view of a reduction about to start (CombiFiltroA.cpp).
+    std::unique_ptr<combi::OsservatoreRiduzione> VistaDellaRiduzione();
 
     // File (CombiFiltroAFile.cpp)
     void CaricaSistemaNonProtetta(const QString& percorso);

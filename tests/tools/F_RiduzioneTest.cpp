@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -323,6 +324,39 @@ TEST(RiduciColonne, HostCallsRunWithOrWithoutTheWindow) {
     b.c.RiduciColonne(file, 3);
     EXPECT_EQ(Tenute(b.c), Attese(colonne, 3));
     EXPECT_TRUE(b.dialoghi.boxes.empty());
+}
+
+TEST(CollegaStrumenti, AHostReductionWithoutAWindowOpensOneThatShowsIt) {
+    Banco b;
+    CollegaStrumenti(b.c, b.dialoghi);
+    QTemporaryDir cartella;
+    const std::vector<Colonna> colonne = ColonneCasuali(7, 250, 12);
+    const QString file = cartella.filePath("Host.col");
+    combi::ScriviFileColonne(file.toStdString(), colonne);
+
+    QPointer<F_Riduzione> finestra;
+    QString fase;
+    int percento = -1;
+    QTimer spia;
+    spia.setInterval(0);
+    QObject::connect(&spia, &QTimer::timeout, [&] {
+        if (finestra || !(finestra = b.c.findChild<F_Riduzione*>())) return;
+        fase = finestra->LabInfo()->text();
+        QObject::connect(finestra->PanPerc(), &QProgressBar::valueChanged,
+                         [&](int valore) { percento = std::max(percento, valore); });
+    });
+    spia.start();
+    b.c.RiduciColonne(file, 4);
+    ASSERT_TRUE(finestra) << "no reduction window came up";
+    EXPECT_TRUE(finestra->isVisible());
+    EXPECT_EQ(fase, combi::kFaseAnalisi);
+    EXPECT_EQ(percento, 100);
+    EXPECT_EQ(Tenute(b.c), Attese(colonne, 4));
+
+    // While it stays open, the next call reports into the same window.
+    b.c.RiduciColonne(file, 3);
+    EXPECT_EQ(b.c.findChildren<F_Riduzione*>().size(), 1);
+    finestra->close();
 }
 
 TEST(CollegaStrumenti, RiduzioneOpensTheWindowAndRefreshesTheColumnCommands) {
