@@ -202,6 +202,10 @@ private:
 }  // namespace
 
 void CombiFiltroA::RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti) {
+    // Inside a development's event pump only "Stop" reacts: a reduction there
+    // would replace the columns under the development, and any box would
+    // hold the development behind it.
+    if (inSviluppo_) return;
     if (!QFileInfo::exists(sFileCol)) {
         dialoghi_->Critico(QString(), "Il file delle colonne non esiste");
         return;

@@ -133,8 +133,9 @@ public:
     // The reduction window shows the phases and the percentage (one is
     // opened when none is). Events are pumped after every step, so the
     // window stays alive and StopRiduciColonne can end the run early (the
-    // columns not yet eliminated are kept). A missing or empty file is only reported; a failure is
-    // reported as "CombiFiltro.RiduciColonne" and changes nothing.
+    // columns not yet eliminated are kept). A missing or empty file is only
+    // reported; a failure is reported as "CombiFiltro.RiduciColonne" and
+    // changes nothing. During a development the call does nothing.
     void RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti);
     void StopRiduciColonne();
     bool RichiestaStopRiduzione() const { return stopRiduzione_; }

@@ -280,6 +280,9 @@ void CombiFiltroA::EseguiPulsante(const QString& chiave) {
 }
 
 void CombiFiltroA::EseguiVoceMenu(const QString& chiave) {
+    // During a development only "Stop" reacts; the menus of the disabled
+    // buttons can still be reached by their keys.
+    if (inSviluppo_) return;
     if (StessaChiave(chiave, "Salva")) {
         Salva(fileSistema_);
     } else if (StessaChiave(chiave, "SalvaConNome")) {

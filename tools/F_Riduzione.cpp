@@ -123,6 +123,7 @@ void F_Riduzione::GaranziaCambiata() {
 }
 
 void F_Riduzione::ScegliFile() {
+    if (controllo_.InSviluppo()) return;  // a file dialog would hold the development
     QString cartella = CartellaProgramma();
     const QString file = DialogoApri(dialoghi_, cartella, "Apri file", "File colonne (*.col)|*.col", "*.col", ".col");
     if (file.isEmpty() || !QFileInfo::exists(file)) return;
@@ -137,7 +138,9 @@ void F_Riduzione::AbilitaScelte(bool abilita) {
 }
 
 void F_Riduzione::Avvia() {
-    if (occupato_) return;
+    // While the control develops it refuses the reduction: the window stays
+    // as it was, old count included.
+    if (occupato_ || controllo_.InSviluppo()) return;
     xpButton1_[0]->setEnabled(false);
     AbilitaScelte(false);
     QCoreApplication::processEvents();

@@ -288,6 +288,34 @@ TEST(F_Riduzione, ReportsMissingEmptyAndBadFilesAndKeepsTheColumns) {
     }
 }
 
+TEST(F_Riduzione, NothingReactsWhileTheControlDevelops) {
+    BancoRiduzione r;
+    const std::vector<Colonna> colonne = ColonneCasuali(13, 40, 12);
+    const QString file = r.Scrivi("Quaranta.col", colonne);
+    r.Scegli(file);
+    r.Avvia();
+    const QString vecchio = r.f.LabColonneRid()->text();
+    ASSERT_EQ(vecchio, QString::number(Attese(colonne, 5).size() - 1));
+
+    r.b.NumeriDa1A(25);  // 53130 columns, all kept
+    r.b.dialoghi.fileScelti.push_back(file);  // what a file dialog would answer
+    bool provato = false;
+    QTimer::singleShot(0, &r.b.c, [&] {
+        ASSERT_TRUE(r.b.c.InSviluppo());
+        r.f.Avvia();
+        r.f.Command1()->click();
+        r.b.c.RiduciColonne(file, 3);  // the host's own call
+        provato = true;
+    });
+    r.b.c.GestSviluppo();
+    EXPECT_TRUE(provato);
+    EXPECT_EQ(r.b.c.QuantitaColonne(), 53130) << "no reduction ran inside the development";
+    EXPECT_EQ(r.f.LabColonneRid()->text(), vecchio) << "the refused start keeps the old count";
+    EXPECT_EQ(r.b.dialoghi.dialoghiFile.size(), 1u) << "no file dialog while developing";
+    ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
+    EXPECT_TRUE(r.b.dialoghi.boxes[0].testo.startsWith("Fine sviluppo "));
+}
+
 TEST(RiduciColonne, HostCallsRunWithOrWithoutTheWindow) {
     Banco b;
     QTemporaryDir cartella;
