@@ -191,7 +191,10 @@ public:
     // this process a copy of its table, otherwise the sums over the files that
     // the external workers left (a missing or broken file adds nothing).
     void RaccogliCondizioni(combi::TabellaCondizioni& tabella) const;
-    // Appends the columns of a worker's columns file to the developed columns.
+    // Appends the columns of a worker's columns file to the developed columns,
+    // as many as its length / 20 rounded (a last record cut short past its
+    // half counts, zero-filled). Throws combi::Errore when the file is
+    // missing or cannot be read.
     void AccodaFileColonne(const QString& file);
     // A development by external workers: whoever starts them calls
     // IniziaSviluppoEsterno (start time, busy panel, no columns); the workers'
