@@ -22,7 +22,8 @@ TEST(Utilita, FileNameParts) {
         {"/x/y/Colonne.col", "Colonne.col", "/x/y/", "col", "Colonne"},
         {"C:\\Sistemi\\A.b.sic", "A.b.sic", "C:\\Sistemi\\", "sic", "A.b"},
         {"Colonne", "Colonne", "", "", "Colonne"},            // bare name: itself
-        {"/x.y/Colonne", "Colonne", "/x.y/", "", "Colonne"},  // dot in the folder only
+        // The extension is whatever follows the path's last ".", even in a folder.
+        {"/x.y/Colonne", "Colonne", "/x.y/", "y/Colonne", "Colonne"},
         {"/x/y/", "", "/x/y/", "", ""},
         {"  /x/a.col  ", "a.col  ", "/x/", "col", "a"},       // folder and extension trim
     };
@@ -37,8 +38,9 @@ TEST(Utilita, FileNameParts) {
 TEST(Utilita, NumberedNamesAndTrailingSeparators) {
     EXPECT_EQ(NomeFileNumerato("/x/y/Colonne.col", 3), "/x/y/Colonne3.col");
     EXPECT_EQ(NomeFileNumerato("/tmp/SistCond.sic", 12), "/tmp/SistCond12.sic");
-    EXPECT_EQ(NomeFileNumerato("Colonne", 3), "Colonne3");
-    EXPECT_EQ(NomeFileNumerato("/x.y/Colonne", 3), "/x.y/Colonne3");
+    // Folder + base + number + "." + extension, whatever the parts hold.
+    EXPECT_EQ(NomeFileNumerato("Colonne", 3), "Colonne3.");
+    EXPECT_EQ(NomeFileNumerato("/x.y/Colonne", 3), "/x.y/Colonne3.y/Colonne");
     const std::pair<const char*, const char*> barre[] = {
         {"/x/y", "/x/y/"}, {" /x/y/ ", "/x/y/"}, {"C:\\a\\", "C:\\a\\"}, {"   ", ""}, {"", ""}};
     for (const auto& [percorso, atteso] : barre) EXPECT_EQ(AggiungiBarra(percorso), atteso) << percorso;
@@ -91,6 +93,12 @@ TEST_F(KillFileTest, DeletesFilesAndPatternsQuietly) {
     EXPECT_FALSE(FileEsiste(solaLettura));
     EXPECT_TRUE(Kill("mancante.col"));
     EXPECT_TRUE(Kill("non/esiste/*.col"));
+    // No file of that name (a folder, a name too long to exist): true, and
+    // the folder stays.
+    fs::create_directory(cartella_ + "cartella");
+    EXPECT_TRUE(Kill("cartella"));
+    EXPECT_TRUE(IsCartella(cartella_ + "cartella"));
+    EXPECT_TRUE(Kill(std::string(300, 'n') + ".col"));
     for (const char* n : {"a.col", "bb.col", "SistCond1.sic", "SistCond12.sic", "SistCond.sic", "nota.txt"})
         Crea(n);
     fs::create_directory(cartella_ + "sotto.col");
@@ -107,21 +115,22 @@ TEST_F(KillFileTest, DeletesFilesAndPatternsQuietly) {
 }
 
 TEST_F(KillFileTest, FailureIsReportedOnceAndAnswersFalse) {
-    fs::create_directory(cartella_ + "cartella");
+    // A file that exists and cannot go: procfs refuses even root.
+    std::vector<std::string> falliscono = {"/proc/version"};
     fs::create_directory(cartella_ + "chiusa");
     Crea("chiusa/dentro.col");
     fs::permissions(cartella_ + "chiusa", fs::perms::owner_read | fs::perms::owner_exec,
                     fs::perm_options::replace);
-    std::vector<std::string> falliscono = {"cartella", std::string(300, 'n') + ".col"};
-    if (::geteuid() != 0) falliscono.push_back("chiusa/dentro.col");  // root may delete anyway
-    for (const std::string& nome : falliscono) {
+    if (::geteuid() != 0) falliscono.push_back(cartella_ + "chiusa/dentro.col");  // root may delete anyway
+    for (const std::string& percorso : falliscono) {
         segnalazioni_.clear();
-        EXPECT_FALSE(Kill(nome)) << nome;
-        ASSERT_EQ(segnalazioni_.size(), 1u) << nome;
+        EXPECT_FALSE(KillFile(percorso, [this](const std::string& t, int n, const std::string& d) {
+            segnalazioni_.push_back(t + "|" + std::to_string(n) + "|" + d);
+        })) << percorso;
+        ASSERT_EQ(segnalazioni_.size(), 1u) << percorso;
         EXPECT_EQ(segnalazioni_[0].rfind("ModFunzGeneriche.KillFile|75|", 0), 0u) << segnalazioni_[0];
     }
-    EXPECT_TRUE(IsCartella(cartella_ + "cartella"));  // even an empty folder survives
-    EXPECT_FALSE(KillFile(cartella_ + "cartella"));  // no callback: still false
+    EXPECT_FALSE(KillFile("/proc/version"));  // no callback: still false
 }
 
 TEST(Utilita, FormatNumeroGroupsThousands) {
