@@ -66,8 +66,8 @@ FinestraPrincipale::~FinestraPrincipale() {
 
 void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
     // A running development returns to its own loop only when it ends: the
-    // user stops it first.
-    if (controllo_->InSviluppo()) {
+    // user stops it first. A modified system is dropped only on the user's Yes.
+    if (controllo_->InSviluppo() || !controllo_->ConsentiSenzaSalvare()) {
         evento->ignore();
         return;
     }

@@ -183,6 +183,9 @@ public:
 
     bool SistemaModificato() const { return modificato_; }
     void SegnaModificato() { modificato_ = true; }
+    // The modified check of "New", "Open" and of closing the host's window:
+    // true when the system is unmodified or the user agrees to drop it.
+    bool ConsentiSenzaSalvare();
     QString FileSistema() const { return fileSistema_; }
     bool InSviluppo() const { return inSviluppo_; }
     // The per-condition counters of the last development.
@@ -254,7 +257,7 @@ private:
     void AggiornaGaranzia();
     void ImpostaStatoSviluppo(bool inCorso);
     void AggiornaComandiColonne();
-    bool ConsentiSenzaSalvare();
+    void SegnaModificatoDalPannello();
     void EseguiPulsante(const QString& chiave);
     void EseguiVoceMenu(const QString& chiave);
     void EseguiEsterno(const QString& chiave);

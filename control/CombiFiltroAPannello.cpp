@@ -122,7 +122,10 @@ QWidget* CombiFiltroA::CostruisciBarra() {
 
     connect(cmbTipoGioco_, &QComboBox::currentIndexChanged, this, [this] { RiempiClasseERiduzione(); });
     connect(cmbClasse_, &QComboBox::currentIndexChanged, this, [this] { ClasseCambiata(); });
-    connect(cmbRid_, &QComboBox::currentIndexChanged, this, [this] { AggiornaGaranzia(); });
+    connect(cmbRid_, &QComboBox::currentIndexChanged, this, [this] {
+        SegnaModificatoDalPannello();  // the user picks only real entries: the value changed
+        AggiornaGaranzia();
+    });
     return pannello;
 }
 
@@ -152,6 +155,7 @@ QWidget* CombiFiltroA::CostruisciFondo() {
 // ---- Combos and counters ----
 
 void CombiFiltroA::RiempiClasseERiduzione() {
+    if (ValoreCombo(cmbRid_) != 0) SegnaModificatoDalPannello();  // the reduction goes back to none
     const QString gioco = cmbTipoGioco_->currentText();
     int predefinita = 5;
     if (gioco == "SuperEnalotto") predefinita = 6;
@@ -173,7 +177,9 @@ void CombiFiltroA::RiempiClasseERiduzione() {
 void CombiFiltroA::ClasseCambiata() {
     // A cleared selection leaves the stored class as it was.
     if (cmbClasse_->currentIndex() >= 0) {
-        classe_ = static_cast<int16_t>(ValoreCombo(cmbClasse_));
+        const auto nuova = static_cast<int16_t>(ValoreCombo(cmbClasse_));
+        if (nuova != classe_) SegnaModificatoDalPannello();
+        classe_ = nuova;
         if (!caricamento_) archivio_->ScriviIntero("Classe", classe_);
     }
     AggiornaIntegrale();
@@ -181,6 +187,7 @@ void CombiFiltroA::ClasseCambiata() {
 }
 
 void CombiFiltroA::NumeriCambiati() {
+    SegnaModificatoDalPannello();
     AggiornaIntegrale();
     AggiornaGaranzia();
     labNumSel_->setText(QString::number(ContaNumeriSel()));
@@ -216,6 +223,13 @@ void CombiFiltroA::AggiornaComandiColonne() {
     const bool colonne = QuantitaColonne() > 0;
     Pulsante("VisualizzaColonne")->setEnabled(colonne && !inSviluppo_);
     VoceMenu("SalvaColonne")->setEnabled(colonne);
+}
+
+// The picks, the class and "Riduzione N-K" are saved with the system, so
+// changing them is a change of the system; restoring the persisted
+// properties at start-up is not.
+void CombiFiltroA::SegnaModificatoDalPannello() {
+    if (!caricamento_) modificato_ = true;
 }
 
 bool CombiFiltroA::ConsentiSenzaSalvare() {
@@ -304,6 +318,9 @@ void CombiFiltroA::EseguiEsterno(const QString& chiave) {
 
 void CombiFiltroA::Nuovo() {
     if (!ConsentiSenzaSalvare()) return;
+    // A new system leaves the modified flag as it was, though it clears the
+    // picks and the reduction.
+    const bool eraModificato = modificato_;
     LayOutGrid();
     numeri_->Pulisci();
     lbQuadroRec_->clear();
@@ -314,6 +331,7 @@ void CombiFiltroA::Nuovo() {
     colonne_.assign(1, combi::Colonna{});
     AggiornaComandiColonne();
     VoceMenu("Salva")->setEnabled(false);  // no file to save to
+    modificato_ = eraModificato;
 }
 
 void CombiFiltroA::RicostruisciQuadri(const std::array<std::array<QString, 2>, 21>& minMax) {

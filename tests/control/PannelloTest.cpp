@@ -9,6 +9,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <functional>
+
 #include "Banco.h"
 #include "ComandiPannello.h"
 #include "EditoreCondizione.h"
@@ -191,6 +193,39 @@ TEST(Pannello, ModifiedPromptOnNewAndOpen) {
     ASSERT_EQ(b.dialoghi.boxes.size(), 1u);
     EXPECT_EQ(b.dialoghi.boxes[0].tipo, "domanda");
     EXPECT_TRUE(b.dialoghi.dialoghiFile.empty()) << "answered No: no open dialog";
+}
+
+TEST(Pannello, PicksClassAndReductionMarkTheSystemModified) {
+    {
+        Banco b;  // the start and a new system change nothing of a system
+        b.c.EseguiComando("New");
+        b.c.EseguiComando("New");
+        EXPECT_FALSE(b.c.SistemaModificato());
+        EXPECT_TRUE(b.dialoghi.boxes.empty());
+    }
+    const struct {
+        const char* nome;
+        std::function<void(Banco&)> cambia;
+    } casi[] = {
+        {"a number picked", [](Banco& b) { b.c.Numeri()->ImpostaNumero(7, true); }},
+        {"the class", [](Banco& b) { b.c.CmbClasse()->setCurrentText("7"); }},
+        {"Riduzione N-K", [](Banco& b) { b.c.CmbRid()->setCurrentText("2"); }},
+        {"the game, with its class", [](Banco& b) { b.c.CmbTipoGioco()->setCurrentText("SuperEnalotto"); }},
+    };
+    for (const auto& caso : casi) {
+        SCOPED_TRACE(caso.nome);
+        Banco b;
+        caso.cambia(b);
+        EXPECT_TRUE(b.c.SistemaModificato());
+        b.c.EseguiComando("New");  // answered No
+        b.c.EseguiComando("Open");
+        ASSERT_EQ(b.dialoghi.boxes.size(), 2u);
+        for (const BoxMostrato& box : b.dialoghi.boxes) {
+            EXPECT_EQ(box.tipo, "domanda");
+            EXPECT_EQ(box.testo, "Il sistema è stato modificato ma non ancora salvato.Continuare ?");
+        }
+        EXPECT_TRUE(b.dialoghi.dialoghiFile.empty());
+    }
 }
 
 TEST(Pannello, ConditionEntryThroughEditors) {
