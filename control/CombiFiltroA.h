@@ -35,6 +35,7 @@ class GrigliaCondizioni;
 class GrigliaNumeri;
 class QAction;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QMenu;
@@ -302,6 +303,7 @@ private:
     QLineEdit* labSviluppate_ = nullptr;
     QLineEdit* labCondizionate_ = nullptr;
     QLineEdit* labGaranzia_ = nullptr;
+    QLabel* labColoreColSel_ = nullptr;
     QWidget* contenitoreLavoratori_ = nullptr;
     std::vector<QLineEdit*> txtPMin_, txtPMax_, txtMsgFromDll_;  // element 0 unused
     std::vector<int32_t> testateLavoratori_, tenuteLavoratori_;

@@ -4,6 +4,7 @@
 #include "CombiFiltroA.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -52,6 +53,15 @@ void CombiFiltroA::CostruisciPannello() {
 
     griglia_ = new GrigliaCondizioni(this);
     colonna->addWidget(griglia_, 1);
+    // The selection colour of the grid is this hidden label's background.
+    labColoreColSel_ = new QLabel(this);
+    labColoreColSel_->setObjectName("LabColoreColSel");
+    labColoreColSel_->setAutoFillBackground(true);
+    QPalette tavolozza = labColoreColSel_->palette();
+    tavolozza.setColor(labColoreColSel_->backgroundRole(), QColor(204, 228, 255));
+    labColoreColSel_->setPalette(tavolozza);
+    labColoreColSel_->hide();
+    griglia_->ImpostaFonteColoreSelezione(labColoreColSel_);
     connect(griglia_, &QTableWidget::cellDoubleClicked, this, [this] { ModificaCondizione(); });
 
     colonna->addWidget(CostruisciFondo());
@@ -149,6 +159,9 @@ QWidget* CombiFiltroA::CostruisciFondo() {
     }
     riga->addWidget(labGaranzia_, 1);  // reaches the right edge
     labNumSel_->setText("0");
+    // Picking numbers one after the other changes the integral count each
+    // time: pending events run, so the panel keeps up.
+    connect(labIntegrale_, &QLineEdit::textChanged, this, [] { QCoreApplication::processEvents(); });
     return pannello;
 }
 
