@@ -52,6 +52,7 @@ FinestraPrincipale::FinestraPrincipale(std::unique_ptr<ServizioDialoghi> dialogh
     sviluppo->addAction("&Processi di sviluppo...", this, &FinestraPrincipale::ChiediProcessi);
     QMenu* aiuto = menuBar()->addMenu("&?");
     aiuto->addAction("&Informazioni", this, [this] {
+        if (controllo_->InSviluppo()) return;  // only "Stop" reacts while developing
         QMessageBox::about(this, "CombiFiltro",
                            "CombiFiltro\nCostruzione e sviluppo di sistemi condizionati.");
     });
@@ -65,8 +66,8 @@ FinestraPrincipale::~FinestraPrincipale() {
 
 void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
     // A running development returns to its own loop only when it ends: the
-    // user stops it first.
-    if (controllo_->InSviluppo()) {
+    // user stops it first. A modified system is dropped only on the user's Yes.
+    if (controllo_->InSviluppo() || !controllo_->ConsentiSenzaSalvare()) {
         evento->ignore();
         return;
     }
@@ -74,6 +75,9 @@ void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
 }
 
 void FinestraPrincipale::ChiediProcessi() {
+    // A modal question would hold a running development behind it, and the
+    // workers' fields must not be rebuilt under a parallel one.
+    if (controllo_->InSviluppo()) return;
     bool ok = false;
     const int quanti = QInputDialog::getInt(this, "Sviluppo parallelo", "Numero dei processi di sviluppo:",
                                             controllo_->NumeroThreadsSviluppo(), 1, 64, 1, &ok);

@@ -204,6 +204,10 @@ private:
 }  // namespace
 
 void CombiFiltroA::RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti) {
+    // Inside a development's event pump only "Stop" reacts: a reduction there
+    // would replace the columns under the development, and any box would
+    // hold the development behind it.
+    if (inSviluppo_) return;
     if (!QFileInfo::exists(sFileCol)) {
         dialoghi_->Critico(QString(), "Il file delle colonne non esiste");
         return;
@@ -217,11 +221,20 @@ void CombiFiltroA::RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiest
             dialoghi_->Esclamazione(QString(), "Il file delle colonne non contiene colonne");
             return;
         }
-        OsservatoreRiduzioneControllo osservatore(vistaRiduzione_ ? vistaRiduzione_() : nullptr, stopRiduzione_);
+        OsservatoreRiduzioneControllo osservatore(VistaDellaRiduzione(), stopRiduzione_);
         combi::RisultatoRiduzione r = combi::RiduciColonne(colonne, nPuntiRichiesti, osservatore);
         r.colonne.insert(r.colonne.begin(), combi::Colonna{});  // element 0 stays empty
         ImpostaColonneSviluppo(std::move(r.colonne));
     });
+}
+
+// The open reduction window shows the run; without one (a host's call) the
+// tools open a window first, so that the progress is seen.
+std::unique_ptr<combi::OsservatoreRiduzione> CombiFiltroA::VistaDellaRiduzione() {
+    auto vista = vistaRiduzione_ ? vistaRiduzione_() : nullptr;
+    if (vista) return vista;
+    if (const auto apri = comandiEsterni_.value("aprifinestrariduzione")) apri();
+    return vistaRiduzione_ ? vistaRiduzione_() : nullptr;
 }
 
 void CombiFiltroA::StopRiduciColonne() { stopRiduzione_ = true; }

@@ -36,6 +36,7 @@ class GrigliaCondizioni;
 class GrigliaNumeri;
 class QAction;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QMenu;
@@ -134,10 +135,12 @@ public:
     // Column reduction: reduces the columns file `sFileCol` so that every
     // dropped column shares at least `nPuntiRichiesti` (1..6) of its first six
     // numbers with a kept one; the columns left replace the developed ones.
-    // Events are pumped after every step, so the window stays alive and
-    // StopRiduciColonne can end the run early (the columns not yet eliminated
-    // are kept). A missing or empty file is only reported; a failure is
-    // reported as "CombiFiltro.RiduciColonne" and changes nothing.
+    // The reduction window shows the phases and the percentage (one is
+    // opened when none is). Events are pumped after every step, so the
+    // window stays alive and StopRiduciColonne can end the run early (the
+    // columns not yet eliminated are kept). A missing or empty file is only
+    // reported; a failure is reported as "CombiFiltro.RiduciColonne" and
+    // changes nothing. During a development the call does nothing.
     void RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti);
     void StopRiduciColonne();
     bool RichiestaStopRiduzione() const { return stopRiduzione_; }
@@ -185,6 +188,9 @@ public:
 
     bool SistemaModificato() const { return modificato_; }
     void SegnaModificato() { modificato_ = true; }
+    // The modified check of "New", "Open" and of closing the host's window:
+    // true when the system is unmodified or the user agrees to drop it.
+    bool ConsentiSenzaSalvare();
     QString FileSistema() const { return fileSistema_; }
     bool InSviluppo() const { return inSviluppo_; }
     // The per-condition counters of the last development.
@@ -193,7 +199,10 @@ public:
     // this process a copy of its table, otherwise the sums over the files that
     // the external workers left (a missing or broken file adds nothing).
     void RaccogliCondizioni(combi::TabellaCondizioni& tabella) const;
-    // Appends the columns of a worker's columns file to the developed columns.
+    // Appends the columns of a worker's columns file to the developed columns,
+    // as many as its length / 20 rounded (a last record cut short past its
+    // half counts, zero-filled). Throws combi::Errore when the file is
+    // missing or cannot be read.
     void AccodaFileColonne(const QString& file);
     // A development by external workers: whoever starts them calls
     // IniziaSviluppoEsterno (start time, busy panel, no columns); the workers'
@@ -227,7 +236,8 @@ public:
     // "VisualizzaColonne", "Naviga", "EffettoCondizioni", "ConfrontoCondSuCol",
     // "Riduzione"); without one the command says it is not available yet.
     // "AggiornaNavigatore" is called after a condition is deleted;
-    // "StopLavoratori" when "Stop" is confirmed during an external development.
+    // "StopLavoratori" when "Stop" is confirmed during an external development;
+    // "ApriFinestraRiduzione" when a reduction starts with no window to show it.
     void RegistraComando(const QString& chiave, std::function<void()> gestore);
     // The clock of the development time, in seconds (tests fake it).
     void ImpostaOrologio(std::function<double()> orologio) { orologio_ = std::move(orologio); }
@@ -252,7 +262,7 @@ private:
     void AggiornaGaranzia();
     void ImpostaStatoSviluppo(bool inCorso);
     void AggiornaComandiColonne();
-    bool ConsentiSenzaSalvare();
+    void SegnaModificatoDalPannello();
     void EseguiPulsante(const QString& chiave);
     void EseguiVoceMenu(const QString& chiave);
     void EseguiEsterno(const QString& chiave);
@@ -268,6 +278,8 @@ private:
 
     // Development (CombiFiltroASviluppo.cpp)
     void SviluppoInterno();
+    // The view of a reduction about to start (CombiFiltroA.cpp).
+    std::unique_ptr<combi::OsservatoreRiduzione> VistaDellaRiduzione();
 
     // File (CombiFiltroAFile.cpp)
     void CaricaSistemaNonProtetta(const QString& percorso);
@@ -295,6 +307,7 @@ private:
     QLineEdit* labSviluppate_ = nullptr;
     QLineEdit* labCondizionate_ = nullptr;
     QLineEdit* labGaranzia_ = nullptr;
+    QLabel* labColoreColSel_ = nullptr;
     QWidget* contenitoreLavoratori_ = nullptr;
     std::vector<QLineEdit*> txtPMin_, txtPMax_, txtMsgFromDll_;  // element 0 unused
     std::vector<int32_t> testateLavoratori_, tenuteLavoratori_;

@@ -47,6 +47,8 @@ std::unique_ptr<EditoreCondizione> CombiFiltroA::CreaEditore(int tipo) {
 
 void CombiFiltroA::Gestisci(int tipo, int16_t& colonna, const QString& sParam,
                             std::unique_ptr<EditoreCondizione> editore) {
+    // A modal editor during a development would hold the development behind it.
+    if (inSviluppo_) return;
     const QString nome = QString::fromStdString(combi::NomeTipoCondizione(tipo));
     if (nome.isEmpty()) return;  // not a condition type: nothing is written
     if (colonna == 0) colonna = PrimaColonnaLibera();
@@ -95,6 +97,7 @@ void CombiFiltroA::Gestisci(int tipo, int16_t& colonna, const QString& sParam,
 }
 
 void CombiFiltroA::ModificaCondizione() {
+    if (inSviluppo_) return;  // the grid's double click while developing
     int16_t colonna = static_cast<int16_t>(griglia_->ColonnaCorrente());
     if (colonna < 1) return;
     const int tipo = combi::CodiceTipoCondizione(griglia_->Testo(1, colonna).toStdString());

@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "ContatoriLavoratori.h"
+#include "FileBinario.h"
 #include "FileColonne.h"
 #include "SegnalazioneErrori.h"
 #include "ServizioDialoghi.h"
@@ -24,12 +25,15 @@ void CombiFiltroA::RaccogliCondizioni(combi::TabellaCondizioni& tabella) const {
     tabella = combi::SommaContatoriLavoratori(combi::FileSistemaTemp(), numeroThreads_);
 }
 
-// A missing file reads as an empty one: the worker kept nothing.
+// The count is the length / 20 rounded, halves to the even neighbour, so a
+// record cut after more than half of it still counts and its missing bytes
+// read as 0. A missing file throws (error 53): the worker's columns are lost.
 void CombiFiltroA::AccodaFileColonne(const QString& file) {
-    if (!combi::FileEsiste(file.toStdString())) return;
-    const std::vector<combi::Colonna> lette = combi::LeggiFileColonne(file.toStdString());
-    if (lette.empty()) return;
-    colonne_.Accoda(lette);
+    std::vector<uint8_t> dati = combi::LeggiFileBinario(file.toStdString(), combi::kMassimoFileColonne);
+    const auto quante = static_cast<size_t>(std::nearbyint(double(dati.size()) / double(combi::kLunghezzaColonna)));
+    if (quante < 1) return;
+    dati.resize(quante * combi::kLunghezzaColonna, 0);
+    colonne_.Accoda(combi::DecodificaColonne(dati.data(), dati.size()));
 }
 
 void CombiFiltroA::IniziaSviluppoEsterno() {
@@ -69,13 +73,15 @@ void CombiFiltroA::ControllaCompletamento() {
     }
     const int lavoratori = static_cast<int>(txtMsgFromDll_.size()) - 1;  // W, as far as fields exist
     if (lavoratori < 1 || compilati != lavoratori) return;
-    EseguiProtetta(*dialoghi_, "CombiFiltro.txtMsgFromDll_Change", [&] {
-        for (size_t i = 1; i < txtMsgFromDll_.size(); ++i) {
-            AccodaFileColonne(txtMsgFromDll_[i]->text().trimmed());
-            txtMsgFromDll_[i]->clear();
-        }
+    const bool accodati = EseguiProtetta(*dialoghi_, "CombiFiltro.txtMsgFromDll_Change", [&] {
+        for (size_t i = 1; i < txtMsgFromDll_.size(); ++i) AccodaFileColonne(txtMsgFromDll_[i]->text().trimmed());
     });
+    // One worker's columns missing would leave a hole in the enumeration:
+    // after the report nothing is kept.
+    if (!accodati) colonne_.Svuota();
+    for (size_t i = 1; i < txtMsgFromDll_.size(); ++i) txtMsgFromDll_[i]->clear();
     ImpostaStatoSviluppo(false);
+    if (!accodati) return;
     const auto secondi = static_cast<int32_t>(std::lround(orologio_() - inizioEsterno_));
     dialoghi_->Informazione(QString(), QString::fromStdString(combi::TempoTrascorso(secondi)));
 }

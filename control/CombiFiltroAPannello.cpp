@@ -4,6 +4,7 @@
 #include "CombiFiltroA.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -52,6 +53,15 @@ void CombiFiltroA::CostruisciPannello() {
 
     griglia_ = new GrigliaCondizioni(this);
     colonna->addWidget(griglia_, 1);
+    // The selection colour of the grid is this hidden label's background.
+    labColoreColSel_ = new QLabel(this);
+    labColoreColSel_->setObjectName("LabColoreColSel");
+    labColoreColSel_->setAutoFillBackground(true);
+    QPalette tavolozza = labColoreColSel_->palette();
+    tavolozza.setColor(labColoreColSel_->backgroundRole(), QColor(204, 228, 255));
+    labColoreColSel_->setPalette(tavolozza);
+    labColoreColSel_->hide();
+    griglia_->ImpostaFonteColoreSelezione(labColoreColSel_);
     connect(griglia_, &QTableWidget::cellDoubleClicked, this, [this] { ModificaCondizione(); });
 
     colonna->addWidget(CostruisciFondo());
@@ -122,7 +132,10 @@ QWidget* CombiFiltroA::CostruisciBarra() {
 
     connect(cmbTipoGioco_, &QComboBox::currentIndexChanged, this, [this] { RiempiClasseERiduzione(); });
     connect(cmbClasse_, &QComboBox::currentIndexChanged, this, [this] { ClasseCambiata(); });
-    connect(cmbRid_, &QComboBox::currentIndexChanged, this, [this] { AggiornaGaranzia(); });
+    connect(cmbRid_, &QComboBox::currentIndexChanged, this, [this] {
+        SegnaModificatoDalPannello();  // the user picks only real entries: the value changed
+        AggiornaGaranzia();
+    });
     return pannello;
 }
 
@@ -146,12 +159,16 @@ QWidget* CombiFiltroA::CostruisciFondo() {
     }
     riga->addWidget(labGaranzia_, 1);  // reaches the right edge
     labNumSel_->setText("0");
+    // Picking numbers one after the other changes the integral count each
+    // time: pending events run, so the panel keeps up.
+    connect(labIntegrale_, &QLineEdit::textChanged, this, [] { QCoreApplication::processEvents(); });
     return pannello;
 }
 
 // ---- Combos and counters ----
 
 void CombiFiltroA::RiempiClasseERiduzione() {
+    if (ValoreCombo(cmbRid_) != 0) SegnaModificatoDalPannello();  // the reduction goes back to none
     const QString gioco = cmbTipoGioco_->currentText();
     int predefinita = 5;
     if (gioco == "SuperEnalotto") predefinita = 6;
@@ -173,7 +190,9 @@ void CombiFiltroA::RiempiClasseERiduzione() {
 void CombiFiltroA::ClasseCambiata() {
     // A cleared selection leaves the stored class as it was.
     if (cmbClasse_->currentIndex() >= 0) {
-        classe_ = static_cast<int16_t>(ValoreCombo(cmbClasse_));
+        const auto nuova = static_cast<int16_t>(ValoreCombo(cmbClasse_));
+        if (nuova != classe_) SegnaModificatoDalPannello();
+        classe_ = nuova;
         if (!caricamento_) archivio_->ScriviIntero("Classe", classe_);
     }
     AggiornaIntegrale();
@@ -181,6 +200,7 @@ void CombiFiltroA::ClasseCambiata() {
 }
 
 void CombiFiltroA::NumeriCambiati() {
+    SegnaModificatoDalPannello();
     AggiornaIntegrale();
     AggiornaGaranzia();
     labNumSel_->setText(QString::number(ContaNumeriSel()));
@@ -216,6 +236,13 @@ void CombiFiltroA::AggiornaComandiColonne() {
     const bool colonne = QuantitaColonne() > 0;
     Pulsante("VisualizzaColonne")->setEnabled(colonne && !inSviluppo_);
     VoceMenu("SalvaColonne")->setEnabled(colonne);
+}
+
+// The picks, the class and "Riduzione N-K" are saved with the system, so
+// changing them is a change of the system; restoring the persisted
+// properties at start-up is not.
+void CombiFiltroA::SegnaModificatoDalPannello() {
+    if (!caricamento_) modificato_ = true;
 }
 
 bool CombiFiltroA::ConsentiSenzaSalvare() {
@@ -280,6 +307,9 @@ void CombiFiltroA::EseguiPulsante(const QString& chiave) {
 }
 
 void CombiFiltroA::EseguiVoceMenu(const QString& chiave) {
+    // During a development only "Stop" reacts; the menus of the disabled
+    // buttons can still be reached by their keys.
+    if (inSviluppo_) return;
     if (StessaChiave(chiave, "Salva")) {
         Salva(fileSistema_);
     } else if (StessaChiave(chiave, "SalvaConNome")) {
@@ -301,6 +331,9 @@ void CombiFiltroA::EseguiEsterno(const QString& chiave) {
 
 void CombiFiltroA::Nuovo() {
     if (!ConsentiSenzaSalvare()) return;
+    // A new system leaves the modified flag as it was, though it clears the
+    // picks and the reduction.
+    const bool eraModificato = modificato_;
     LayOutGrid();
     numeri_->Pulisci();
     lbQuadroRec_->clear();
@@ -311,6 +344,7 @@ void CombiFiltroA::Nuovo() {
     colonne_.Svuota();
     AggiornaComandiColonne();
     VoceMenu("Salva")->setEnabled(false);  // no file to save to
+    modificato_ = eraModificato;
 }
 
 void CombiFiltroA::RicostruisciQuadri(const std::array<std::array<QString, 2>, 21>& minMax) {

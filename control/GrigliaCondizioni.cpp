@@ -18,9 +18,6 @@ bool RigaFissa(int riga) { return riga <= 1; }
 
 GrigliaCondizioni::GrigliaCondizioni(QWidget* genitore) : QTableWidget(genitore) {
     setObjectName("GrdCond");
-    // The colour of the selected condition, a pale blue that leaves the black
-    // texts readable.
-    coloreSelezione_ = QColor(204, 228, 255);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setWordWrap(true);
@@ -61,6 +58,14 @@ void GrigliaCondizioni::LayOut() {
     occupata_ = true;
     colonnaEvidenziata_ = 0;
     setUpdatesEnabled(false);
+    // The grid was drawn in "MS Sans Serif" at its 8 points: the platform's
+    // sans-serif family at the same size, so rows and widths keep their
+    // proportions. Word wrap stays on.
+    QFont carattere;
+    carattere.setStyleHint(QFont::SansSerif);
+    carattere.setFamily(carattere.defaultFamily());
+    carattere.setPointSize(8);
+    setFont(carattere);
     clear();
     setRowCount(kRighe);
     setColumnCount(kColonne);
@@ -175,10 +180,24 @@ void GrigliaCondizioni::Evidenzia() {
     const int c = ColonnaCorrente();
     if (c != colonnaEvidenziata_) {
         if (colonnaEvidenziata_ > 0) ColoraColonna(colonnaEvidenziata_, QColor());
-        if (c > 0) ColoraColonna(c, coloreSelezione_);
+        if (c > 0) {
+            // The current cell is drawn selected: in the same colour, so the
+            // whole condition reads as one highlighted column.
+            const QColor colore = ColoreSelezione();
+            QPalette tavolozza = palette();
+            tavolozza.setColor(QPalette::Highlight, colore);
+            tavolozza.setColor(QPalette::HighlightedText, tavolozza.color(QPalette::Text));
+            setPalette(tavolozza);
+            ColoraColonna(c, colore);
+        }
         colonnaEvidenziata_ = c;
     }
     occupata_ = false;
+}
+
+QColor GrigliaCondizioni::ColoreSelezione() const {
+    if (fonteColore_) return fonteColore_->palette().color(fonteColore_->backgroundRole());
+    return QColor(204, 228, 255);  // a pale blue that leaves the black texts readable
 }
 
 int GrigliaCondizioni::LarghezzaW() const { return QFontMetrics(font()).horizontalAdvance("W"); }

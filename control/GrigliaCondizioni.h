@@ -14,6 +14,7 @@
 // them); only the displayed copy uses Qt's line feeds.
 
 #include <QColor>
+#include <QPointer>
 #include <QTableWidget>
 
 class GrigliaCondizioni : public QTableWidget {
@@ -54,7 +55,11 @@ public:
 
     // Background of rows 2..5 of a column.
     void ColoraColonna(int colonna, const QColor& colore);
-    QColor ColoreSelezione() const { return coloreSelezione_; }
+    // The selected condition is painted in the background colour of
+    // `etichetta` (the panel's hidden LabColoreColSel), read at every change;
+    // without one, a pale blue.
+    void ImpostaFonteColoreSelezione(const QWidget* etichetta) { fonteColore_ = etichetta; }
+    QColor ColoreSelezione() const;
     int ColonnaEvidenziata() const { return colonnaEvidenziata_; }
 
     // Column widths changed by one "W" (step > 0 wider, else narrower),
@@ -77,7 +82,7 @@ private:
     QTableWidgetItem* Cella(int riga, int colonna) const;
     void AdattaAltezza();
 
-    QColor coloreSelezione_;
+    QPointer<const QWidget> fonteColore_;
     bool occupata_ = false;   // rebuilding or recolouring: cell changes are not followed
     int colonnaEvidenziata_ = 0;
 };

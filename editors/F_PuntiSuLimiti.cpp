@@ -8,26 +8,24 @@
 
 #include "Condizione.h"
 #include "ConfrontoColonna.h"
+#include "ServizioDialoghi.h"
 
-std::optional<std::pair<int, int>> LimitiBaricentro(const std::vector<int>& numeri, int classe) {
-    const int n = static_cast<int>(numeri.size());
-    if (classe < 1 || n < classe) return std::nullopt;
-    const int minimi = std::accumulate(numeri.begin(), numeri.begin() + classe, 0);
-    const int massimi = std::accumulate(numeri.end() - classe, numeri.end(), 0);
-    return std::pair{minimi / classe, massimi / classe};
+std::pair<int, int> LimitiBaricentro(const TabellaCandidati& tabella, int classe) {
+    // The first candidate holds the k smallest numbers, the last the k largest.
+    const int minimi = std::accumulate(tabella.front().begin(), tabella.front().end(), 0);
+    const int massimi = std::accumulate(tabella.back().begin(), tabella.back().end(), 0);
+    return {minimi / classe, massimi / classe};
 }
 
-std::optional<std::pair<int, int>> LimitiAmpiezza(const std::vector<int>& numeri, int classe) {
-    const auto tabella = combi::PreparaTabellaCandidati(numeri, classe);
-    if (tabella.empty()) return std::nullopt;
+std::pair<int, int> LimitiAmpiezza(const TabellaCandidati& tabella, int classe) {
     const int k = classe;
     const int candidati = static_cast<int>(tabella.size());  // n - k + 1
     const int massimo = tabella[candidati - 1][k - 1] - tabella[0][0];
-    if (k == 1) return std::pair{massimo, massimo};
+    if (k == 1) return {massimo, massimo};
     const int kesimo = tabella[0][k - 1];
     int j = candidati;
     while (j > 1 && tabella[j - 1][0] >= kesimo) --j;
-    return std::pair{kesimo - tabella[j - 1][0], massimo};
+    return {kesimo - tabella[j - 1][0], massimo};
 }
 
 F_PuntiSuLimiti::F_PuntiSuLimiti(const VoceCatalogo& voce, const ContestoEditore& contesto,
@@ -53,9 +51,18 @@ F_PuntiSuLimiti::F_PuntiSuLimiti(const VoceCatalogo& voce, const ContestoEditore
 }
 
 void F_PuntiSuLimiti::CalcolaLimiti() {
+    labMin_->clear();
+    labMax_->clear();
     const auto& numeri = Contesto().numeriSelezionati;
-    const auto limiti = Voce().tipo == combi::kAmpiezza ? LimitiAmpiezza(numeri, Classe())
-                                                        : LimitiBaricentro(numeri, Classe());
-    labMin_->setText(limiti ? QString::number(limiti->first) : QString());
-    labMax_->setText(limiti ? QString::number(limiti->second) : QString());
+    const int k = Classe();
+    if (static_cast<int>(numeri.size()) < k) return;
+    // A class of 0 (no entry selected in the class list) is told to the user.
+    const TabellaCandidati tabella = combi::PreparaTabellaCandidati(numeri, k, [this](const std::string& testo) {
+        if (Contesto().dialoghi != nullptr) Contesto().dialoghi->Critico(QString(), QString::fromStdString(testo));
+    });
+    if (tabella.empty()) return;
+    const auto [minimo, massimo] =
+        Voce().tipo == combi::kAmpiezza ? LimitiAmpiezza(tabella, k) : LimitiBaricentro(tabella, k);
+    labMin_->setText(QString::number(minimo));
+    labMax_->setText(QString::number(massimo));
 }

@@ -3,7 +3,6 @@
 // LabMax, the smallest and largest value a column of the system can have.
 // The user's range is not checked against them.
 
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -17,7 +16,7 @@ public:
     F_PuntiSuLimiti(const VoceCatalogo& voce, const ContestoEditore& contesto, QWidget* genitore);
 
     // Fills LabMin/LabMax from the system's numbers; empty labels when the
-    // numbers are fewer than the class.
+    // numbers are fewer than the class, and a message when no class is set.
     void CalcolaLimiti();
 
 protected:
@@ -28,12 +27,17 @@ private:
     QLabel* labMax_ = nullptr;
 };
 
-// {min, max} over the integral columns of `numeri` (ascending) in class k;
-// nothing when fewer than k numbers. Baricentro: integer part of the mean of
-// the k smallest and of the k largest numbers.
-std::optional<std::pair<int, int>> LimitiBaricentro(const std::vector<int>& numeri, int classe);
+// The candidate table of the development: row c holds the picked numbers
+// c..c+k-1 (ascending), so the first row has the k smallest numbers and the
+// last row the k largest.
+using TabellaCandidati = std::vector<std::vector<int>>;
+
+// {min, max} over the integral columns of class k, from a candidate table
+// with at least one row. Baricentro: integer part of the mean of the k
+// smallest and of the k largest numbers.
+std::pair<int, int> LimitiBaricentro(const TabellaCandidati& tabella, int classe);
 // Ampiezza: max = largest - smallest number; min = k-th smallest minus the
 // j-th smallest, j the last candidate starting below the k-th number. A
 // single-number column has no such candidate: class 1 shows the span of the
 // picked numbers in both labels.
-std::optional<std::pair<int, int>> LimitiAmpiezza(const std::vector<int>& numeri, int classe);
+std::pair<int, int> LimitiAmpiezza(const TabellaCandidati& tabella, int classe);

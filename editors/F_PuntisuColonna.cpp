@@ -18,15 +18,27 @@ F_PuntisuColonna::F_PuntisuColonna(const VoceCatalogo& voce, const ContestoEdito
     AbilitaNum(contesto.numeriSelezionati);
     // Ending the pick in the grid confirms the dialog, as on the main panel.
     connect(griglia_, &GrigliaNumeri::Chiusa, this, [this] { Pulsante(0)->click(); });
+    connect(griglia_, &GrigliaNumeri::SelezioneCambiata, this, [this] { AggiornaDisponibili(); });
 }
 
 void F_PuntisuColonna::AbilitaNum(const GrigliaNumeri& numeri) {
-    for (int n = 1; n <= 90; ++n) griglia_->ImpostaDisponibile(n, numeri.Selezionato(n));
+    for (int n = 1; n <= 90; ++n) delSistema_[n] = numeri.Selezionato(n);
+    AggiornaDisponibili();
 }
 
 void F_PuntisuColonna::AbilitaNum(const std::vector<int>& numeri) {
-    for (int n = 1; n <= 90; ++n) griglia_->ImpostaDisponibile(n, false);
-    for (int n : numeri) griglia_->ImpostaDisponibile(n, true);
+    delSistema_.fill(false);
+    for (int n : numeri) {
+        if (n >= 1 && n <= 90) delSistema_[n] = true;
+    }
+    AggiornaDisponibili();
+}
+
+// A condition edited after the system lost some of its numbers still holds
+// them: they stay available while picked, so the user can clear them, and
+// once cleared they cannot be picked again.
+void F_PuntisuColonna::AggiornaDisponibili() {
+    for (int n = 1; n <= 90; ++n) griglia_->ImpostaDisponibile(n, delSistema_[n] || griglia_->Selezionato(n));
 }
 
 void F_PuntisuColonna::RiempiDaParametri(const QString&) {

@@ -4,6 +4,9 @@
 // of those numbers in a column. Always shown to the user, never filled from
 // a host's text.
 
+#include <array>
+#include <vector>
+
 #include "F_PuntiSuElenco.h"
 
 class GrigliaNumeri;
@@ -13,7 +16,8 @@ class F_PuntisuColonna : public F_PuntiSuElenco {
 public:
     F_PuntisuColonna(const VoceCatalogo& voce, const ContestoEditore& contesto, QWidget* genitore);
 
-    // Makes available exactly the numbers picked in the main panel's grid.
+    // Makes available the numbers picked in the main panel's grid, and those
+    // the condition holds that are no longer picked there until unticked.
     void AbilitaNum(const GrigliaNumeri& numeri) override;
     // The same from the picked numbers themselves.
     void AbilitaNum(const std::vector<int>& numeri);
@@ -25,6 +29,9 @@ protected:
     void LeggiParametri(const std::string& testo) override;
 
 private:
+    void AggiornaDisponibili();
+
     GrigliaNumeri* griglia_ = nullptr;
+    std::array<bool, 91> delSistema_{};  // 1..90: picked in the main panel
 };
 

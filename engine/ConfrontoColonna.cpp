@@ -39,13 +39,18 @@ Confronto ConfrontaCondizioniSuColonna(const Colonna& colonna, const TestiGrigli
     return esito;
 }
 
-std::vector<std::vector<int>> PreparaTabellaCandidati(const std::vector<int>& numeri, int classe) {
+std::vector<std::vector<int>> PreparaTabellaCandidati(const std::vector<int>& numeri, int classe,
+                                                      const std::function<void(const std::string&)>& avvisa) {
+    if (classe < 1) {
+        if (avvisa) avvisa(kMsgClasseNonPositiva);
+        return {};
+    }
     std::vector<int> sel;
     for (int n : numeri)
         if (n != 0) sel.push_back(n);
     const int n = int(sel.size());
     std::vector<std::vector<int>> tabella;
-    if (classe < 1 || n < classe) return tabella;
+    if (n < classe) return tabella;
     for (int c = 1; c <= n - classe + 1; ++c) {
         std::vector<int> riga(static_cast<size_t>(classe));
         for (int r = 1; r <= classe; ++r) riga[size_t(r - 1)] = sel[size_t(r + c - 2)];

@@ -2,6 +2,7 @@
 // The check of one column typed by the user against the conditions, as data:
 // one row per condition for the list view that shows it.
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -35,9 +36,14 @@ struct Confronto {
 // position holding a number and judges the column. Rows skip type-0 records.
 Confronto ConfrontaCondizioniSuColonna(const Colonna& colonna, const TestiGriglia& griglia);
 
+inline constexpr const char* kMsgClasseNonPositiva = "Impostare il numero di elementi per ciascuna combinazione";
+
 // The candidate table of the development, for the limits the Ampiezza and
 // Baricentro editors show: tabella[c-1][r-1] = numbers[r + c - 1] (1-based),
-// c = 1..N-k+1. Empty when fewer than k numbers are given or k < 1.
-std::vector<std::vector<int>> PreparaTabellaCandidati(const std::vector<int>& numeri, int classe);
+// c = 1..N-k+1 (zeros among the numbers are skipped). Empty when fewer than k
+// numbers are given. A class below 1 is the user's missing choice: `avvisa`
+// (when given) receives kMsgClasseNonPositiva and the table is empty.
+std::vector<std::vector<int>> PreparaTabellaCandidati(const std::vector<int>& numeri, int classe,
+                                                      const std::function<void(const std::string&)>& avvisa = {});
 
 }  // namespace combi

@@ -21,7 +21,6 @@ void Rifiuta(std::string_view testo) {
 std::string ControllaEstrazione(std::string_view testo) {
     const std::vector<std::string_view> voci = Dividi(testo, ",");
     if (voci.size() > kMassimoEstratti) return kMsgMassimo20Numeri;
-    if (voci.empty()) return kMsgNumeriDa1a90;
     for (std::string_view v : voci) {
         const double numero = LeggiNumero(v);
         if (!(numero > 0) || numero > kMaxNumero) return kMsgNumeriDa1a90;

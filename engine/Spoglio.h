@@ -20,7 +20,7 @@ inline constexpr const char* kMsgMassimo20Numeri = "La colonna vincente deve con
 // text is split at ","; every item must read (leading-number reading) as a
 // value above 0 and at most 90, so an empty or non-numeric item fails; 21 or
 // more items give the second message, which wins over the first. An empty
-// text has nothing to check and is refused with the first message.
+// text has no item, so nothing refuses it: every column then scores 0.
 std::string ControllaEstrazione(std::string_view testo);
 
 // One row of the "Vincite" list.

@@ -101,19 +101,19 @@ std::string Descrizione(const std::string& percorso, const std::error_code& ec) 
     return "Impossibile cancellare il file: " + percorso + " (" + ec.message() + ")";
 }
 
-// Deletes one file; empty result on success or when nothing is there, else the
-// reason. A folder is not a file: refusing it keeps callers from writing over it.
+// Deletes one file; empty result on success or when there is no such file,
+// else the reason. Only what the existence test sees is deleted (a broken
+// link, a name too long to exist are not there), and a folder is no file of
+// that name: like a missing file ("file not found") both answer success and
+// stay as they are.
 std::string CancellaSingolo(const fs::path& percorso) {
+    if (!FileEsiste(percorso.string()) || IsCartella(percorso.string())) return {};
     std::error_code ec;
-    const fs::file_status stato = fs::symlink_status(percorso, ec);
-    if (stato.type() == fs::file_type::not_found) return {};
-    if (ec) return Descrizione(percorso.string(), ec);
-    if (fs::is_directory(stato))
-        return Descrizione(percorso.string(), std::make_error_code(std::errc::is_a_directory));
-    if (fs::is_regular_file(stato))  // best effort: Linux deletes read-only files anyway
+    if (fs::is_regular_file(fs::symlink_status(percorso, ec)))  // best effort: Linux deletes read-only files anyway
         fs::permissions(percorso, fs::perms::owner_write, fs::perm_options::add, ec);
     fs::remove(percorso, ec);
-    return ec ? Descrizione(percorso.string(), ec) : std::string();
+    if (!ec || ec == std::errc::no_such_file_or_directory) return {};  // gone meanwhile: not found
+    return Descrizione(percorso.string(), ec);
 }
 
 // Names of the non-folder entries of `cartella` matching `modello`; a missing
@@ -180,12 +180,13 @@ std::string CartellaDelFile(std::string_view percorso) {
     return barra == std::string::npos ? std::string() : pulito.substr(0, barra + 1);
 }
 
-// Only the file name is searched for the ".": a dot in a folder name
-// ("/a.b/Colonne") is not an extension.
+// The whole trimmed path is searched for the last ".", so with a dot in a
+// folder name and none in the file name ("/a.b/Colonne") the "extension" is
+// "b/Colonne", as it always was.
 std::string EstensioneFile(std::string_view percorso) {
-    const std::string nome = NomeFile(Trim(percorso));
-    const size_t punto = nome.rfind('.');
-    return punto == std::string::npos ? std::string() : nome.substr(punto + 1);
+    const std::string pulito = Trim(percorso);
+    const size_t punto = pulito.rfind('.');
+    return punto == std::string::npos ? std::string() : Trim(pulito.substr(punto + 1));
 }
 
 std::string NomeSenzaEstensione(std::string_view percorso) {
@@ -193,12 +194,10 @@ std::string NomeSenzaEstensione(std::string_view percorso) {
     return nome.substr(0, nome.rfind('.'));
 }
 
-// An extensionless name gets no trailing ".": Windows, where this naming began,
-// drops such a dot, so "Colonne3." and "Colonne3" were the same file there.
+// The parts are joined as they come: a name without extension ends in ".".
 std::string NomeFileNumerato(std::string_view percorso, int numero) {
-    const std::string estensione = EstensioneFile(percorso);
-    return CartellaDelFile(percorso) + NomeSenzaEstensione(Trim(percorso)) + std::to_string(numero) +
-           (estensione.empty() ? "" : "." + estensione);
+    return CartellaDelFile(percorso) + NomeSenzaEstensione(percorso) + std::to_string(numero) + "." +
+           EstensioneFile(percorso);
 }
 
 bool KillFile(const std::string& percorso, const SegnalaErrore& segnala) {

@@ -47,14 +47,15 @@ std::string NomeFile(std::string_view percorso);
 // Trimmed path up to and including its last separator; empty when there is none.
 std::string CartellaDelFile(std::string_view percorso);
 
-// Trimmed text after the last "." of the file name; empty when the name has no ".".
+// Trimmed text after the last "." of the trimmed path (a "." in a folder name
+// counts); empty when the path has no ".".
 std::string EstensioneFile(std::string_view percorso);
 
 // NomeFile without the part from its last "." on (NomeFile itself if it has no ".").
 std::string NomeSenzaEstensione(std::string_view percorso);
 
-// Same folder and extension with `numero` appended to the base name:
-// ("/x/Colonne.col", 3) -> "/x/Colonne3.col"; without an extension no "." is added.
+// CartellaDelFile + NomeSenzaEstensione + `numero` + "." + EstensioneFile:
+// ("/x/Colonne.col", 3) -> "/x/Colonne3.col"; ("Colonne", 3) -> "Colonne3.".
 std::string NomeFileNumerato(std::string_view percorso, int numero);
 
 // Receives a deletion failure: source title, error number, description.
@@ -63,7 +64,8 @@ using SegnalaErrore =
 
 // Deletes a file, or every file of the folder matching a name pattern when the
 // name holds "*" ("*" any run, "?" one character; folders never match). A
-// read-only file is made writable first. Nothing to delete -> true, silently.
+// read-only file is made writable first. No file of that name (nothing there,
+// or a folder, which is left alone) -> true, silently.
 // Any other failure -> false, reported once to `segnala` (if given) with the
 // title "ModFunzGeneriche.KillFile".
 bool KillFile(const std::string& percorso, const SegnalaErrore& segnala = {});

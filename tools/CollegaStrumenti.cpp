@@ -17,11 +17,18 @@ void CollegaStrumenti(CombiFiltroA& controllo, ServizioDialoghi& dialoghi) {
         F_Spoglio spoglio(*ctl, *servizio, ctl);
         spoglio.exec();
     });
-    // The reduction window is the view of the control's reductions only
-    // while it is open: a reduction the host starts directly runs unseen.
+    // The reduction window is the view of the control's reductions while it
+    // is open.
     controllo.RegistraComando("Riduzione", [ctl, servizio] {
         F_Riduzione riduzione(*ctl, *servizio, ctl);
         riduzione.exec();
+    });
+    // A reduction the host starts with no window open gets one of its own,
+    // modeless, left open after the run for the user to close.
+    controllo.RegistraComando("ApriFinestraRiduzione", [ctl, servizio] {
+        auto* riduzione = new F_Riduzione(*ctl, *servizio, ctl);
+        riduzione->setAttribute(Qt::WA_DeleteOnClose);
+        riduzione->show();
     });
     controllo.RegistraComando("VisualizzaColonne", [ctl] {
         F_VisualizzaColonne colonne(*ctl, ctl);

@@ -12,8 +12,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ColonneInFile.h"
 #include "CombiFiltroA.h"
-#include "FileColonne.h"
 #include "Riduzione.h"
 #include "ServizioDialoghi.h"
 #include "UtilitaSchermo.h"
@@ -123,12 +123,13 @@ void F_Riduzione::GaranziaCambiata() {
 }
 
 void F_Riduzione::ScegliFile() {
+    if (controllo_.InSviluppo()) return;  // a file dialog would hold the development
     QString cartella = CartellaProgramma();
     const QString file = DialogoApri(dialoghi_, cartella, "Apri file", "File colonne (*.col)|*.col", "*.col", ".col");
     if (file.isEmpty() || !QFileInfo::exists(file)) return;
     labFile_->setText(file);
-    const std::optional<double> quante = combi::GetNumeroColonneInFile(file.toStdString());
-    labColonne_->setText(QString::number(quante.value_or(0), 'g', 15));
+    const std::optional<double> quante = GetNumeroColonneInFile(file, dialoghi_);
+    labColonne_->setText(quante ? QString::number(*quante, 'g', 15) : QString());
 }
 
 void F_Riduzione::AbilitaScelte(bool abilita) {
@@ -137,7 +138,9 @@ void F_Riduzione::AbilitaScelte(bool abilita) {
 }
 
 void F_Riduzione::Avvia() {
-    if (occupato_) return;
+    // While the control develops it refuses the reduction: the window stays
+    // as it was, old count included.
+    if (occupato_ || controllo_.InSviluppo()) return;
     xpButton1_[0]->setEnabled(false);
     AbilitaScelte(false);
     QCoreApplication::processEvents();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QListWidget>
 
 #include "GrigliaCondizioni.h"
@@ -119,6 +120,16 @@ TEST(GrigliaCondizioni, WidthLimitsAndHighlight) {
     EXPECT_TRUE(g.ColonnaInteramenteVisibile(150));
     g.PortaInVista(2);
     EXPECT_EQ(g.ColonnaSinistra(), 2) << "a column left of the view becomes the leftmost";
+
+    // The colour is the background of the panel's hidden label, read anew.
+    QLabel fonte;
+    QPalette tavolozza = fonte.palette();
+    tavolozza.setColor(fonte.backgroundRole(), QColor(250, 200, 60));
+    fonte.setPalette(tavolozza);
+    g.ImpostaFonteColoreSelezione(&fonte);
+    g.PortaInVista(7);
+    EXPECT_EQ(g.item(5, 7)->background().color(), QColor(250, 200, 60));
+    EXPECT_EQ(g.palette().color(QPalette::Highlight), QColor(250, 200, 60)) << "the current cell too";
 }
 
 TEST(GrigliaCondizioni, TextsRoundTripWithLineBreaks) {

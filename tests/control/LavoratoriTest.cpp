@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -64,19 +65,39 @@ TEST(Lavoratori, CompletionWaitsForEveryFieldWhateverTheOrder) {
     } while (std::next_permutation(ordine.begin(), ordine.end()));
 }
 
-TEST(Lavoratori, EmptyOrMissingWorkerFilesAddNothing) {
+// The count of a worker's file is its length / 20 rounded, halves to the even
+// neighbour: a record cut after more than half of it counts, its missing
+// bytes read as 0. Worked by hand: 9 -> 0.45 -> 0; 19 -> 0.95 -> 1;
+// 30 -> 1.5 -> 2; 50 -> 2.5 -> 2; 70 -> 3.5 -> 4. A missing file (-1) is a
+// failure: reported, and nothing is kept of the other workers either.
+TEST(Lavoratori, AWorkerFileCountsItsLengthOver20RoundedAndMustExist) {
     QTemporaryDir cartella;
-    BancoLavoratori b;
-    b.c.IniziaSviluppoEsterno();
-    const QString vuoto = cartella.filePath("vuoto.col");
-    combi::ScriviFileColonne(vuoto.toStdString(), {});
-    b.c.txtMsgFromDll(1)->setText(vuoto);
-    b.c.txtMsgFromDll(2)->setText(FileLavoratore(cartella, 2));
-    b.c.txtMsgFromDll(3)->setText(cartella.filePath("mai-scritto.col"));
-    EXPECT_EQ(b.c.QuantitaColonne(), 2);
-    ASSERT_EQ(b.dialoghi.boxes.size(), 1u);
-    EXPECT_EQ(b.dialoghi.boxes[0].tipo, "informazione");
-    EXPECT_FALSE(b.c.InSviluppo());
+    const std::pair<int, int> casi[] = {{-1, 0}, {0, 0}, {9, 0}, {19, 1}, {30, 2}, {50, 2}, {70, 4}};
+    for (const auto& [lunghezza, attese] : casi) {
+        SCOPED_TRACE(lunghezza);
+        QFile file(cartella.filePath(QString("l%1.col").arg(lunghezza)));
+        if (lunghezza >= 0) {
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            for (int i = 1; i <= lunghezza; ++i) file.putChar(char(i));  // each record holds the next numbers
+            file.close();
+        }
+        BancoLavoratori b;
+        b.c.IniziaSviluppoEsterno();
+        b.c.txtMsgFromDll(1)->setText(FileLavoratore(cartella, 1));  // 1 column
+        b.c.txtMsgFromDll(2)->setText(file.fileName());
+        b.c.txtMsgFromDll(3)->setText(FileLavoratore(cartella, 3));  // 3 columns
+        EXPECT_EQ(b.c.QuantitaColonne(), lunghezza < 0 ? 0 : 1 + attese + 3);
+        if (lunghezza == 30) EXPECT_EQ(b.c.GetColonnaSviluppo(3), "21 22 23 24 25 26 27 28 29 30");
+        ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << "the elapsed time, or the failure alone";
+        const BoxMostrato& box = b.dialoghi.boxes[0];
+        EXPECT_EQ(box.tipo, lunghezza < 0 ? "critico" : "informazione") << "an empty file is no failure";
+        if (lunghezza < 0) {
+            EXPECT_EQ(box.titolo, "CombiFiltro.txtMsgFromDll_Change");
+            EXPECT_EQ(box.testo, "53- File non trovato: " + file.fileName());
+        }
+        for (int i = 1; i <= 3; ++i) EXPECT_TRUE(b.c.txtMsgFromDll(i)->text().isEmpty()) << i;
+        EXPECT_FALSE(b.c.InSviluppo());
+    }
 }
 
 TEST(Lavoratori, ProgressIsTheSumOverWorkersAndCancelDropsPartialResults) {

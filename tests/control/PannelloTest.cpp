@@ -171,6 +171,7 @@ TEST(Pannello, ModifiedPromptOnNewAndOpen) {
     Banco b;
     b.c.EseguiComando("New");
     EXPECT_TRUE(b.dialoghi.boxes.empty()) << "an unmodified system asks nothing";
+    EXPECT_FALSE(b.c.SistemaModificato()) << "clearing picks and reduction for a new system is no change";
     EXPECT_FALSE(b.c.VoceMenu("Salva")->isEnabled());
 
     b.c.EseguiComando("LinkOpen");
@@ -191,6 +192,28 @@ TEST(Pannello, ModifiedPromptOnNewAndOpen) {
     ASSERT_EQ(b.dialoghi.boxes.size(), 1u);
     EXPECT_EQ(b.dialoghi.boxes[0].tipo, "domanda");
     EXPECT_TRUE(b.dialoghi.dialoghiFile.empty()) << "answered No: no open dialog";
+}
+
+TEST(Pannello, PicksClassAndReductionMarkTheSystemModified) {
+    const struct {
+        const char* nome;
+        std::function<void(Banco&)> cambia;
+    } casi[] = {
+        {"a number picked", [](Banco& b) { b.c.Numeri()->ImpostaNumero(7, true); }},
+        {"the class", [](Banco& b) { b.c.CmbClasse()->setCurrentText("7"); }},
+        {"Riduzione N-K", [](Banco& b) { b.c.CmbRid()->setCurrentText("2"); }},
+        {"the game, with its class", [](Banco& b) { b.c.CmbTipoGioco()->setCurrentText("SuperEnalotto"); }},
+    };
+    for (const auto& caso : casi) {
+        SCOPED_TRACE(caso.nome);
+        Banco b;
+        caso.cambia(b);
+        EXPECT_TRUE(b.c.SistemaModificato());
+        b.c.EseguiComando("New");  // answered No
+        b.c.EseguiComando("Open");
+        EXPECT_EQ(b.dialoghi.Testi(), QStringList(2, "Il sistema è stato modificato ma non ancora salvato.Continuare ?"));
+        EXPECT_TRUE(b.dialoghi.dialoghiFile.empty());
+    }
 }
 
 TEST(Pannello, ConditionEntryThroughEditors) {

@@ -88,6 +88,8 @@ TEST(SviluppoPannello, StopAskedDuringTheDevelopment) {
     for (bool interrompi : {true, false}) {
         Banco b;
         b.NumeriDa1A(25);  // 53130 columns, all kept
+        b.Condizione(1, "Ponte", "P", "0-1-2-3-4");  // every column passes
+        b.c.SetColonnaGrid(1);
         b.dialoghi.risposte = {interrompi};
         bool statoVerificato = false;
         QTimer::singleShot(0, &b.c, [&] {
@@ -101,13 +103,18 @@ TEST(SviluppoPannello, StopAskedDuringTheDevelopment) {
             EXPECT_TRUE(b.c.CmbTipoGioco()->isEnabled());
             b.c.GestSviluppo();  // re-entry is ignored
             b.c.EseguiComando("New");
+            // Nothing that would open a dialog behind the running development.
+            emit b.c.GetGridCond()->cellDoubleClicked(2, 1);
+            b.c.EseguiComando("SalvaConNome");
+            b.c.EseguiComando("PuntiSuPonte");
             b.c.Pulsante("Stop")->click();
             statoVerificato = true;
         });
         b.c.GestSviluppo();
         EXPECT_TRUE(statoVerificato);
         const QStringList testi = b.dialoghi.Testi();
-        ASSERT_EQ(testi.size(), 2) << "only Stop reacted while developing";
+        ASSERT_EQ(testi.size(), 2) << "only Stop reacted while developing: " << testi.join(" | ").toStdString();
+        EXPECT_TRUE(b.dialoghi.dialoghiFile.empty());
         EXPECT_EQ(testi[0], "Interrompere ?");
         EXPECT_TRUE(testi[1].startsWith("Fine sviluppo \r\n"));
         const int attese = interrompi ? 20000 : 53130;

@@ -158,6 +158,10 @@ TEST(CalcolaLimiti, AmpiezzaEBaricentroDaiNumeriDelSistema) {
         {combi::kAmpiezza, 1, {4, 9, 30}, "26", "26"},
         {combi::kBaricentro, 1, {4, 9, 30}, "4", "30"},
         {combi::kAmpiezza, 5, {1, 2, 3}, "", ""},
+        // No class chosen (the class list without a selection reads 0).
+        {combi::kAmpiezza, 0, {4, 9, 30}, "", ""},
+        {combi::kBaricentro, 0, {4, 9, 30}, "", ""},
+        {combi::kBaricentro, 0, {}, "", ""},
     };
     for (const Caso& caso : casi) {
         SCOPED_TRACE(std::to_string(caso.tipo) + " classe " + std::to_string(caso.classe));
@@ -165,6 +169,10 @@ TEST(CalcolaLimiti, AmpiezzaEBaricentroDaiNumeriDelSistema) {
         auto e = Editore(caso.tipo, dialoghi, caso.classe, caso.numeri);
         EXPECT_EQ(W<QLabel>(*e, "LabMin")->text(), caso.minimo);
         EXPECT_EQ(W<QLabel>(*e, "LabMax")->text(), caso.massimo);
+        // Critical box with the application's title (an empty title here).
+        const std::string atteso =
+            caso.classe < 1 ? ": Impostare il numero di elementi per ciascuna combinazione" : "";
+        EXPECT_EQ(dialoghi.messaggi.join("\n").toStdString(), atteso);
     }
 }
 

@@ -195,6 +195,24 @@ TEST(EditoriCondizione, PuntiSuColonnaOffreSoloINumeriDelSistemaEVaACapoOgniQuat
     EXPECT_EQ(e->result(), QDialog::Accepted);
 }
 
+// Numbers of an edited condition no longer in the system: ticked, can be unticked.
+TEST(EditoriCondizione, PuntiSuColonnaLasciaTogliereINumeriNonPiuDelSistema) {
+    DialoghiRegistrati dialoghi;
+    auto e = Editore(combi::kPuntiColonna, dialoghi, 5, {2, 4, 6, 8});
+    e->LeggiPunti(combi::TestiCondizione{"", "Punti Col.", "02-15-40", "1", "", " "});
+    GrigliaNumeri principale;  // the main grid, as the control hands it over
+    for (int n : {2, 4, 6, 8}) principale.ImpostaNumero(n, true);
+    e->AbilitaNum(principale);
+    auto* g = static_cast<F_PuntisuColonna&>(*e).Numeri();
+    for (int n : {2, 15, 40}) EXPECT_TRUE(g->Selezionato(n) && g->Disponibile(n)) << n;
+    EXPECT_FALSE(g->Disponibile(9));
+
+    Clic(*g, "Numero15");
+    EXPECT_FALSE(g->Selezionato(15));
+    EXPECT_FALSE(g->Disponibile(15)) << "once cleared, an outside number cannot come back";
+    EXPECT_EQ(e->GetParametri().parametri.toStdString(), "02-40");
+}
+
 TEST(EditoriCondizione, ValoriDiUnaClassePiuAltaIgnoratiConNota) {
     DialoghiRegistrati dialoghi;
     auto e = Editore(combi::kConsecutivi, dialoghi, 3);

@@ -31,7 +31,7 @@ TEST(Spoglio, DrawnNumbersAreCheckedBeforeTheCount) {
         {"5,,7", kMsgNumeriDa1a90},
         {"5,", kMsgNumeriDa1a90},
         {"abc", kMsgNumeriDa1a90},
-        {"", kMsgNumeriDa1a90},
+        {"", ""},  // no item: nothing to refuse
         {Elenco(1, 20), ""},
         {Elenco(1, 21), kMsgMassimo20Numeri},
         {Elenco(1, 20, ",0"), kMsgMassimo20Numeri},  // the count message wins

