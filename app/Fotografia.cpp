@@ -11,7 +11,7 @@
 #include "FinestraPrincipale.h"
 #include "GrigliaCondizioni.h"
 #include "ServizioDialoghiSilenzioso.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace {
 

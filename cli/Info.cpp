@@ -10,7 +10,8 @@
 #include "FileSistema.h"
 #include "ScritturaCondizioni.h"
 #include "Testo.h"
-#include "Utilita.h"
+#include "Formato.h"
+#include "Percorsi.h"
 
 namespace combi::cli {
 

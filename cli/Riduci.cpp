@@ -10,7 +10,7 @@
 #include "FileColonne.h"
 #include "Riduzione.h"
 #include "Terminale.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace combi::cli {
 

@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace combi::cli {
 

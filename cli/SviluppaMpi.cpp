@@ -28,7 +28,7 @@
 #include "Terminale.h"
 #include "Conteggi.h"
 #include "UnioneQuote.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace combi::cli {
 

@@ -7,7 +7,7 @@
 #include <csignal>
 #include <iostream>
 
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace combi::cli {
 

@@ -7,7 +7,7 @@
 #include "FileBinario.h"
 #include "FileColonne.h"
 #include "SegnalazioneErrori.h"
-#include "Utilita.h"
+#include "Percorsi.h"
 
 std::optional<double> GetNumeroColonneInFile(const QString& file, ServizioDialoghi& dialoghi) {
     const std::string percorso = file.toStdString();

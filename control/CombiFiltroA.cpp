@@ -25,7 +25,7 @@
 #include "SegnalazioneErrori.h"
 #include "ServizioDialoghiQt.h"
 #include "UtilitaSchermo.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace {
 

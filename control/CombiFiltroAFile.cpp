@@ -22,7 +22,7 @@
 #include "ServizioDialoghi.h"
 #include "TestiGrigliaQt.h"
 #include "UtilitaSchermo.h"
-#include "Utilita.h"
+#include "Percorsi.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "GrigliaNumeri.h"
 #include "SegnalazioneErrori.h"
 #include "ServizioDialoghi.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 void CombiFiltroA::LayOutGrid() {
     try {

@@ -15,7 +15,8 @@
 #include "FileColonne.h"
 #include "SegnalazioneErrori.h"
 #include "ServizioDialoghi.h"
-#include "Utilita.h"
+#include "Formato.h"
+#include "Percorsi.h"
 
 void CombiFiltroA::RaccogliCondizioni(combi::TabellaCondizioni& tabella) const {
     if (motore_ == interno) {

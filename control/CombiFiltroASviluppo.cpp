@@ -23,7 +23,7 @@
 #include "Sviluppo.h"
 #include "TestiGrigliaQt.h"
 #include "UtilitaSchermo.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 // The engine calls back every 10000 columns, which can be tens of thousands
 // of times a second: after the first time, the counters are redrawn and

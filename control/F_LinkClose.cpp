@@ -10,7 +10,7 @@
 #include "GrigliaCondizioni.h"
 #include "LetturaNumero.h"
 #include "Testo.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 F_LinkClose::F_LinkClose(QWidget* genitore) : QDialog(genitore) {
     setObjectName("F_LinkClose");

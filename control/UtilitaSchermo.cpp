@@ -10,7 +10,7 @@
 #include <algorithm>
 
 #include "ServizioDialoghi.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 bool SelezionaVoceCombo(const QString& testo, QComboBox* combo) {
     const int quante = combo->count();

@@ -18,7 +18,7 @@
 #include "ServizioDialoghi.h"
 #include "Testo.h"
 #include "UtilitaSchermo.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace {
 

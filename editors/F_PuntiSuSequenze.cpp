@@ -9,7 +9,7 @@
 
 #include "ParametriInserimento.h"
 #include "Testo.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 F_PuntiSuSequenze::F_PuntiSuSequenze(const VoceCatalogo& voce, const ContestoEditore& contesto,
                                      QWidget* genitore)

@@ -13,7 +13,7 @@
 #include "GraficoBarre.h"
 #include "SegnalazioneErrori.h"
 #include "ServizioDialoghi.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 QString NomeGioco(int codiceGioco) {
     static const char* giochi[] = {"Lotto", "10ELotto", "10ELotto5M", "SuperEnalotto"};

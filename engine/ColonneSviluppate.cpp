@@ -9,7 +9,7 @@
 #include <cstring>
 
 #include "Errore.h"
-#include "Utilita.h"
+#include "Percorsi.h"
 
 namespace combi {
 

@@ -1,7 +1,7 @@
 #include "ConfrontoColonna.h"
 
 #include "DecodificaCondizioni.h"
-#include "Utilita.h"
+#include "Formato.h"
 #include "VerificaColonna.h"
 
 namespace combi {

@@ -5,7 +5,7 @@
 #include <exception>
 
 #include "Errore.h"
-#include "Utilita.h"
+#include "Percorsi.h"
 
 namespace combi {
 

@@ -2,7 +2,7 @@
 
 #include <locale>
 
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace combi {
 

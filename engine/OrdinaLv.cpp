@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "Errore.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace combi {
 

@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "Utilita.h"
+#include "Percorsi.h"
 
 namespace combi {
 

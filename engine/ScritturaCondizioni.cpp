@@ -1,7 +1,7 @@
 #include "ScritturaCondizioni.h"
 
 #include "DecodificaCondizioni.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace combi {
 

@@ -3,7 +3,7 @@
 #include "Errore.h"
 #include "LetturaNumero.h"
 #include "Testo.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace combi {
 

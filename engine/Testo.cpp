@@ -38,4 +38,26 @@ std::string Sostituisci(std::string_view testo, std::string_view da, std::string
 
 std::string RimuoviACapo(std::string_view testo) { return Sostituisci(testo, "\r\n", ""); }
 
+namespace {
+
+// A UTF-8 continuation byte belongs to the character started before it.
+bool IsContinuazione(char ch) { return (static_cast<unsigned char>(ch) & 0xC0) == 0x80; }
+
+}  // namespace
+
+size_t CaratteriUtf8(std::string_view testo) {
+    size_t n = 0;
+    for (char ch : testo) n += IsContinuazione(ch) ? 0 : 1;
+    return n;
+}
+
+size_t InizioCarattereUtf8(std::string_view testo, size_t n) {
+    size_t i = 0;
+    for (; i < testo.size(); ++i) {
+        if (IsContinuazione(testo[i])) continue;
+        if (n-- == 0) return i;
+    }
+    return testo.size();
+}
+
 }  // namespace combi

@@ -17,6 +17,13 @@ std::string Trim(std::string_view testo);
 // Every CR LF removed.
 std::string RimuoviACapo(std::string_view testo);
 
+// Characters of a UTF-8 text (continuation bytes belong to the character
+// started before them): lengths of user texts count these, not bytes.
+size_t CaratteriUtf8(std::string_view testo);
+
+// Byte offset where character `n` (0-based) starts; the size past the end.
+size_t InizioCarattereUtf8(std::string_view testo, size_t n);
+
 // Every occurrence of `da` replaced by `a`.
 std::string Sostituisci(std::string_view testo, std::string_view da, std::string_view a);
 

@@ -10,7 +10,8 @@
 #include "ProtocolloLavoratori.h"
 #include "SegnalazioneErrori.h"
 #include "ServizioDialoghi.h"
-#include "Utilita.h"
+#include "CancellaFile.h"
+#include "Percorsi.h"
 
 namespace {
 

@@ -15,7 +15,8 @@
 #include "CartellaTempProvvisoria.h"
 #include "FileColonne.h"
 #include "FileSistema.h"
-#include "Utilita.h"
+#include "Formato.h"
+#include "Percorsi.h"
 
 namespace {
 

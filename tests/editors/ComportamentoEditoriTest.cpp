@@ -11,7 +11,7 @@
 #include "Errore.h"
 #include "F_PuntiSuElenco.h"
 #include "F_PuntiSuLimiti.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include "DecodificaCondizioni.h"
 #include "F_PuntisuColonna.h"
 #include "GrigliaNumeri.h"
-#include "Utilita.h"
+#include "Formato.h"
 
 namespace {
 

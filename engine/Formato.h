@@ -1,19 +1,11 @@
 #pragma once
-// Small stateless helpers used across the system: paths and the temporary
-// system file, file deletion, and the exact text formats shown to the user
-// (counters, elapsed time, vertical grid texts, number lists, column texts).
-//
-// Paths: the program was born on Windows, and stored names may still carry
-// "\" separators, so both "\" and "/" split a path. We run on Linux, so a
-// separator that has to be appended is always "/".
-//
-// Lengths of user texts (vertical pieces, alignment) count UTF-8 characters,
-// not bytes, so an accented letter is never cut in half.
+// The exact text formats shown to the user: counters, elapsed time, vertical
+// grid texts, number lists and column texts. Lengths of user texts count
+// UTF-8 characters, not bytes, so an accented letter is never cut in half.
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -22,55 +14,6 @@
 #include "Colonna.h"
 
 namespace combi {
-
-// ---- Folders and file names ----
-
-// Trimmed path with a trailing separator; an empty (or blank) path stays empty.
-std::string AggiungiBarra(std::string_view percorso);
-
-// The temporary folder with a trailing separator; "/tmp/" when the system one
-// is missing or not a folder.
-std::string CartellaTemp();
-
-// Path of the system file written for external development workers.
-std::string FileSistemaTemp();
-
-// True when `percorso` is an existing folder (symbolic links followed).
-bool IsCartella(const std::string& percorso);
-
-// True when `percorso` exists, as a file or as a folder.
-bool FileEsiste(const std::string& percorso);
-
-// Text after the last separator; the whole path when there is none.
-std::string NomeFile(std::string_view percorso);
-
-// Trimmed path up to and including its last separator; empty when there is none.
-std::string CartellaDelFile(std::string_view percorso);
-
-// Trimmed text after the last "." of the trimmed path (a "." in a folder name
-// counts); empty when the path has no ".".
-std::string EstensioneFile(std::string_view percorso);
-
-// NomeFile without the part from its last "." on (NomeFile itself if it has no ".").
-std::string NomeSenzaEstensione(std::string_view percorso);
-
-// CartellaDelFile + NomeSenzaEstensione + `numero` + "." + EstensioneFile:
-// ("/x/Colonne.col", 3) -> "/x/Colonne3.col"; ("Colonne", 3) -> "Colonne3.".
-std::string NomeFileNumerato(std::string_view percorso, int numero);
-
-// Receives a deletion failure: source title, error number, description.
-using SegnalaErrore =
-    std::function<void(const std::string& titolo, int numero, const std::string& descrizione)>;
-
-// Deletes a file, or every file of the folder matching a name pattern when the
-// name holds "*" ("*" any run, "?" one character; folders never match). A
-// read-only file is made writable first. No file of that name (nothing there,
-// or a folder, which is left alone) -> true, silently.
-// Any other failure -> false, reported once to `segnala` (if given) with the
-// title "ModFunzGeneriche.KillFile".
-bool KillFile(const std::string& percorso, const SegnalaErrore& segnala = {});
-
-// ---- Formatting ----
 
 // Value rounded half away from zero, thousands grouped by `separatore`, no
 // decimals; "0" for anything that rounds to zero. Throws Errore on NaN/inf.

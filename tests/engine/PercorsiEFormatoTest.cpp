@@ -8,7 +8,9 @@
 #include <unistd.h>
 
 #include "Errore.h"
-#include "Utilita.h"
+#include "CancellaFile.h"
+#include "Formato.h"
+#include "Percorsi.h"
 
 namespace combi {
 namespace {
