@@ -11,6 +11,7 @@
 #include "CollegaEditori.h"
 #include "CollegaStrumenti.h"
 #include "EditoreCondizione.h"
+#include "ChiaviComandi.h"
 #include "CombiFiltroA.h"
 #include "ServizioDialoghiQt.h"
 #include "StampaSchedine.h"
@@ -34,7 +35,7 @@ FinestraPrincipale::FinestraPrincipale(std::unique_ptr<ServizioDialoghi> dialogh
     // The workers are the command-line program installed beside this one.
     parallelo_ = new SviluppoParallelo(*controllo_, *dialoghi_,
                                        QCoreApplication::applicationDirPath() + "/combifiltro-cli", this);
-    controllo_->RegistraComando("StopLavoratori", [this] { parallelo_->Ferma(); });
+    controllo_->RegistraComando(chiavi::kStopLavoratori, [this] { parallelo_->Ferma(); });
 
     connect(controllo_, &CombiFiltroA::StampaSk, this,
             [this](QString& tipoGioco) { AnteprimaSchedine(this, *controllo_, tipoGioco); });

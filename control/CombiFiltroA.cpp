@@ -3,6 +3,8 @@
 
 #include "CombiFiltroA.h"
 
+#include "ChiaviComandi.h"
+
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDateTime>
@@ -11,6 +13,7 @@
 #include <QListWidget>
 
 #include <cmath>
+#include <stdexcept>
 #include <thread>
 
 #include "ArchivioProprieta.h"
@@ -134,7 +137,7 @@ void CombiFiltroA::SetNum(int16_t num, bool v) {
 // one window that may still be open: its owner unloads it.
 void CombiFiltroA::Deinit() {
     CancellaControllo(this);
-    if (const auto chiudi = comandiEsterni_.value("chiudinavigatore")) chiudi();
+    if (const auto chiudi = Gestore(chiavi::kChiudiNavigatore)) chiudi();
 }
 
 void CombiFiltroA::ImpostaColonneSviluppo(std::vector<combi::Colonna> colonne) {
@@ -233,7 +236,7 @@ void CombiFiltroA::RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiest
 std::unique_ptr<combi::OsservatoreRiduzione> CombiFiltroA::VistaDellaRiduzione() {
     auto vista = vistaRiduzione_ ? vistaRiduzione_() : nullptr;
     if (vista) return vista;
-    if (const auto apri = comandiEsterni_.value("aprifinestrariduzione")) apri();
+    if (const auto apri = Gestore(chiavi::kApriFinestraRiduzione)) apri();
     return vistaRiduzione_ ? vistaRiduzione_() : nullptr;
 }
 
@@ -244,5 +247,7 @@ int16_t CombiFiltroA::GetIdCmbTipoGioco() const { return static_cast<int16_t>(cm
 QString CombiFiltroA::GetIdCmbTipoGiocoString() const { return cmbTipoGioco_->currentText(); }
 
 void CombiFiltroA::RegistraComando(const QString& chiave, std::function<void()> gestore) {
+    if (!ChiaveEsterna(chiave))
+        throw std::invalid_argument("chiave di comando sconosciuta: " + chiave.toStdString());
     comandiEsterni_[chiave.toLower()] = std::move(gestore);
 }

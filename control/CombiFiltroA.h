@@ -238,6 +238,8 @@ public:
     // "AggiornaNavigatore" is called after a condition is deleted;
     // "StopLavoratori" when "Stop" is confirmed during an external development;
     // "ApriFinestraRiduzione" when a reduction starts with no window to show it.
+    // The keys are those of ChiaviComandi.h; any other key throws
+    // std::invalid_argument, so a misspelt one shows as soon as it is registered.
     void RegistraComando(const QString& chiave, std::function<void()> gestore);
     // The clock of the development time, in seconds (tests fake it).
     void ImpostaOrologio(std::function<double()> orologio) { orologio_ = std::move(orologio); }
@@ -264,6 +266,11 @@ private:
     void AggiornaComandiColonne();
     void SegnaModificatoDalPannello();
     void EseguiPulsante(const QString& chiave);
+    static const QHash<QString, void (*)(CombiFiltroA&)>& GestoriPulsanti();
+    static bool ChiaveEsterna(const QString& chiave);
+    std::function<void()> Gestore(const QString& chiave) const { return comandiEsterni_.value(chiave.toLower()); }
+    void NuovaCondizione(int tipo);
+    void StampaSchedine();
     void EseguiVoceMenu(const QString& chiave);
     void EseguiEsterno(const QString& chiave);
     void RicreaCampiLavoratori();

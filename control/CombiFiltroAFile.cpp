@@ -6,6 +6,8 @@
 
 #include "CombiFiltroA.h"
 
+#include "ChiaviComandi.h"
+
 #include <QAction>
 #include <QComboBox>
 #include <QListWidget>
@@ -81,7 +83,7 @@ void CombiFiltroA::CaricaSistemaNonProtetta(const QString& percorso) {
     LayOutGrid();
     RiempiGriglia(*griglia_, *lbQuadroRec_, combi::TestiDaSistema(sistema.condizioni, sistema.quadri));
     SetColonnaGrid(1);
-    VoceMenu("Salva")->setEnabled(true);
+    VoceMenu(chiavi::kSalva)->setEnabled(true);
     modificato_ = false;
 }
 

@@ -2,6 +2,8 @@
 
 #include "CombiFiltroA.h"
 
+#include "ChiaviComandi.h"
+
 #include "EditoreCondizione.h"
 #include "F_LinkClose.h"
 #include "GrigliaCondizioni.h"
@@ -120,7 +122,7 @@ void CombiFiltroA::EliminaCondizione() {
     if (colonna < 1) return;
     griglia_->EliminaColonna(colonna);
     // The system navigator, when it exists, rebuilds its tree from the grid.
-    if (const auto aggiorna = comandiEsterni_.value("aggiornanavigatore")) aggiorna();
+    if (const auto aggiorna = Gestore(chiavi::kAggiornaNavigatore)) aggiorna();
     modificato_ = true;
 }
 

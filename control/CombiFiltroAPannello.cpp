@@ -18,6 +18,7 @@
 #include <cmath>
 
 #include "ArchivioProprieta.h"
+#include "ChiaviComandi.h"
 #include "ComandiPannello.h"
 #include "Conteggi.h"
 #include "GrigliaCondizioni.h"
@@ -74,7 +75,7 @@ void CombiFiltroA::CostruisciPannello() {
     numeri_->hide();
     connect(numeri_, &GrigliaNumeri::SelezioneCambiata, this, [this] { NumeriCambiati(); });
     connect(numeri_, &GrigliaNumeri::Chiusa, this, [this] {
-        Pulsante("SelNumeri")->setChecked(false);
+        Pulsante(chiavi::kSelNumeri)->setChecked(false);
         modificato_ = true;
     });
 
@@ -113,7 +114,7 @@ QWidget* CombiFiltroA::CostruisciBarra() {
         barra_->addWidget(pulsante);
     }
     // "Stop" has nothing to stop before a development starts.
-    Pulsante("Stop")->setEnabled(false);
+    Pulsante(chiavi::kStop)->setEnabled(false);
     riga->addWidget(barra_, 1);
 
     cmbTipoGioco_ = new QComboBox(pannello);
@@ -226,7 +227,7 @@ QAction* CombiFiltroA::VoceMenu(const QString& chiave) const { return vociMenu_.
 void CombiFiltroA::ImpostaStatoSviluppo(bool inCorso) {
     inSviluppo_ = inCorso;
     for (QToolButton* pulsante : std::as_const(pulsanti_)) pulsante->setEnabled(!inCorso);
-    Pulsante("Stop")->setEnabled(inCorso);
+    Pulsante(chiavi::kStop)->setEnabled(inCorso);
     cmbClasse_->setEnabled(!inCorso);
     cmbRid_->setEnabled(!inCorso);
     AggiornaComandiColonne();
@@ -234,8 +235,8 @@ void CombiFiltroA::ImpostaStatoSviluppo(bool inCorso) {
 
 void CombiFiltroA::AggiornaComandiColonne() {
     const bool colonne = QuantitaColonne() > 0;
-    Pulsante("VisualizzaColonne")->setEnabled(colonne && !inSviluppo_);
-    VoceMenu("SalvaColonne")->setEnabled(colonne);
+    Pulsante(chiavi::kVisualizzaColonne)->setEnabled(colonne && !inSviluppo_);
+    VoceMenu(chiavi::kSalvaColonne)->setEnabled(colonne);
 }
 
 // The picks, the class and "Riduzione N-K" are saved with the system, so
@@ -262,69 +263,83 @@ void CombiFiltroA::EseguiComando(const QString& chiave) {
     }
 }
 
+// The panel's own commands, by key; every other button opens a window that
+// lives elsewhere, through the handler registered under its key.
+const QHash<QString, void (*)(CombiFiltroA&)>& CombiFiltroA::GestoriPulsanti() {
+    using namespace chiavi;
+    static const QHash<QString, void (*)(CombiFiltroA&)> gestori = [] {
+        QHash<QString, void (*)(CombiFiltroA&)> g;
+        const auto aggiungi = [&g](const char* chiave, void (*f)(CombiFiltroA&)) { g[QString(chiave).toLower()] = f; };
+        aggiungi(kApri, [](CombiFiltroA& c) {
+            if (c.ConsentiSenzaSalvare()) c.Apri();
+        });
+        aggiungi(kSalvaPulsante, [](CombiFiltroA& c) { c.Salva(c.fileSistema_); });
+        aggiungi(kNuovo, [](CombiFiltroA& c) { c.Nuovo(); });
+        aggiungi(kCondizioni, [](CombiFiltroA& c) { emit c.CondizioniPressed(); });
+        aggiungi(kSelNumeri, [](CombiFiltroA& c) { c.numeri_->setVisible(c.Pulsante(kSelNumeri)->isChecked()); });
+        aggiungi(kLinkOpen, [](CombiFiltroA& c) { c.NuovaCondizione(combi::kLinkOpen); });
+        aggiungi(kLinkClose, [](CombiFiltroA& c) { c.NuovaCondizione(combi::kLinkClose); });
+        aggiungi(kEdit, [](CombiFiltroA& c) { c.ModificaCondizione(); });
+        aggiungi(kDelete, [](CombiFiltroA& c) { c.EliminaCondizione(); });
+        aggiungi(kSviluppa, [](CombiFiltroA& c) { c.GestSviluppo(); });
+        aggiungi(kStop, [](CombiFiltroA& c) { c.ChiediStop(); });
+        aggiungi(kInserisci, [](CombiFiltroA& c) { c.InserisciColonna(); });
+        aggiungi(kIncrGrid, [](CombiFiltroA& c) { c.CambiaLarghezzaColonne(+1); });
+        aggiungi(kDecrGrid, [](CombiFiltroA& c) { c.CambiaLarghezzaColonne(-1); });
+        aggiungi(kStampaSk, [](CombiFiltroA& c) { c.StampaSchedine(); });
+        aggiungi(kRiduzione, [](CombiFiltroA& c) {
+            c.EseguiEsterno(kRiduzione);
+            c.AggiornaComandiColonne();
+        });
+        return g;
+    }();
+    return gestori;
+}
+
+// The keys a host may register a handler for.
+bool CombiFiltroA::ChiaveEsterna(const QString& chiave) {
+    using namespace chiavi;
+    for (const char* k : {kQuadroRecuperi, kVisualizzaColonne, kNaviga, kEffettoCondizioni, kConfrontoCondSuCol,
+                          kRiduzione, kAggiornaNavigatore, kChiudiNavigatore, kStopLavoratori,
+                          kApriFinestraRiduzione})
+        if (StessaChiave(chiave, k)) return true;
+    return false;
+}
+
 void CombiFiltroA::EseguiPulsante(const QString& chiave) {
-    const auto e = [&](const char* nome) { return StessaChiave(chiave, nome); };
+    if (const auto gestore = GestoriPulsanti().value(chiave.toLower())) gestore(*this);
+    else EseguiEsterno(chiave);
+}
+
+void CombiFiltroA::NuovaCondizione(int tipo) {
     int16_t colonna = 0;
-    if (e("Open")) {
-        if (ConsentiSenzaSalvare()) Apri();
-    } else if (e("Save")) {
-        Salva(fileSistema_);
-    } else if (e("New")) {
-        Nuovo();
-    } else if (e("Condizioni")) {
-        emit CondizioniPressed();
-    } else if (e("SelNumeri")) {
-        numeri_->setVisible(Pulsante("SelNumeri")->isChecked());
-    } else if (e("LinkOpen")) {
-        GestisciCondizione(combi::kLinkOpen, colonna, QString());
-    } else if (e("LinkClose")) {
-        GestisciCondizione(combi::kLinkClose, colonna, QString());
-    } else if (e("Edit")) {
-        ModificaCondizione();
-    } else if (e("Delete")) {
-        EliminaCondizione();
-    } else if (e("SviluppaCond")) {
-        GestSviluppo();
-    } else if (e("Stop")) {
-        ChiediStop();
-    } else if (e("Inserisci")) {
-        InserisciColonna();
-    } else if (e("IncrGrid")) {
-        CambiaLarghezzaColonne(+1);
-    } else if (e("DecrGrid")) {
-        CambiaLarghezzaColonne(-1);
-    } else if (e("StampaSk")) {
-        if (QuantitaColonne() > 0) {
-            QString tipoGioco = cmbTipoGioco_->currentText();
-            emit StampaSk(tipoGioco);
-        }
-    } else {
-        // "QuadroRecuperi", "VisualizzaColonne", "Naviga", "EffettoCondizioni",
-        // "ConfrontoCondSuCol", "Riduzione": windows that live elsewhere.
-        EseguiEsterno(chiave);
-        if (e("Riduzione")) AggiornaComandiColonne();
-    }
+    GestisciCondizione(tipo, colonna, QString());
+}
+
+void CombiFiltroA::StampaSchedine() {
+    if (QuantitaColonne() == 0) return;
+    QString tipoGioco = cmbTipoGioco_->currentText();
+    emit StampaSk(tipoGioco);
 }
 
 void CombiFiltroA::EseguiVoceMenu(const QString& chiave) {
     // During a development only "Stop" reacts; the menus of the disabled
     // buttons can still be reached by their keys.
     if (inSviluppo_) return;
-    if (StessaChiave(chiave, "Salva")) {
+    if (StessaChiave(chiave, chiavi::kSalva)) {
         Salva(fileSistema_);
-    } else if (StessaChiave(chiave, "SalvaConNome")) {
+    } else if (StessaChiave(chiave, chiavi::kSalvaConNome)) {
         QString nessuno;
         Salva(nessuno);
-    } else if (StessaChiave(chiave, "SalvaColonne")) {
+    } else if (StessaChiave(chiave, chiavi::kSalvaColonne)) {
         SalvaFileColonne();
     } else if (const VoceMenuComando* voce = ::VoceMenu(chiave); voce && voce->tipoCondizione > 0) {
-        int16_t colonna = 0;
-        GestisciCondizione(voce->tipoCondizione, colonna, QString());
+        NuovaCondizione(voce->tipoCondizione);
     }
 }
 
 void CombiFiltroA::EseguiEsterno(const QString& chiave) {
-    const auto gestore = comandiEsterni_.value(chiave.toLower());
+    const auto gestore = Gestore(chiave);
     if (gestore) gestore();
     else dialoghi_->Informazione(QString(), "Funzione non ancora disponibile");
 }
@@ -343,7 +358,7 @@ void CombiFiltroA::Nuovo() {
     fileSistema_.clear();
     colonne_.Svuota();
     AggiornaComandiColonne();
-    VoceMenu("Salva")->setEnabled(false);  // no file to save to
+    VoceMenu(chiavi::kSalva)->setEnabled(false);  // no file to save to
     modificato_ = eraModificato;
 }
 

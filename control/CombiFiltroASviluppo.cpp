@@ -4,6 +4,8 @@
 // events run, so the window stays alive and "Stop" can be pressed.
 
 #include "CombiFiltroA.h"
+
+#include "ChiaviComandi.h"
 #include "Messaggi.h"
 
 #include <QApplication>
@@ -127,6 +129,6 @@ void CombiFiltroA::ChiediStop() {
     richiestaStop_ = true;
     // External workers are not polled by this control: whoever started them stops them.
     if (motore_ == esterno) {
-        if (const auto stop = comandiEsterni_.value("stoplavoratori")) stop();
+        if (const auto stop = Gestore(chiavi::kStopLavoratori)) stop();
     }
 }

@@ -1,5 +1,6 @@
 #include "CollegaEditori.h"
 
+#include "ChiaviComandi.h"
 #include "CombiFiltroA.h"
 #include "F_QuadroRecuperi.h"
 #include "FabbricaEditoriQt.h"
@@ -17,7 +18,7 @@ std::unique_ptr<FabbricaEditori> CollegaEditori(CombiFiltroA& controllo, Servizi
         return c;
     });
     controllo.ImpostaFabbricaEditori(fabbrica.get());
-    controllo.RegistraComando("QuadroRecuperi", [ctl] {
+    controllo.RegistraComando(chiavi::kQuadroRecuperi, [ctl] {
         F_QuadroRecuperi d(ctl);
         d.LeggiRecuperiInseriti(*ctl->GetGridCond(), *ctl->GetLbQuadroRec());
         d.Mostra();
