@@ -140,7 +140,7 @@ EsitoStorico VerificaStorico(const std::vector<Colonna>& colonne, const std::vec
     const std::vector<Estrazione> scelte = EstrazioniScelte(archivio, p);
     EsitoStorico esito = Prepara(colonne, scelte, p);
     const ColonneABit bit(colonne);
-    const size_t gruppo = EstrazioniPerGruppo(colonne.size());
+    const size_t gruppo = p.estrazioniPerGruppo ? p.estrazioniPerGruppo : EstrazioniPerGruppo(colonne.size());
     const size_t gruppi = (scelte.size() + gruppo - 1) / gruppo;
     std::vector<ContePunti> conte(scelte.size());
     std::vector<uint8_t> fatto(gruppi, 0);  // each written by one thread, read after the join

@@ -40,6 +40,9 @@ struct ParametriStorico {
     int puntiMinimi = 1;                   // 1..20: a draw "has hits" when a column scores this many
     int classe = 0;                        // rows of the totals: at least this class (0: the columns')
     int thread = 0;                        // 0: one per core
+    // Draws per group handed to a thread; 0: about 64 million column checks
+    // (tests use small groups to share a few draws among threads).
+    size_t estrazioniPerGruppo = 0;
 };
 
 // Progress, message pumping and Stop, all called on the calling thread, after
