@@ -6,12 +6,14 @@
 #include <QInputDialog>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QSettings>
 
 #include "ArchivioQSettings.h"
 #include "CollegaEditori.h"
 #include "CollegaStrumenti.h"
 #include "EditoreCondizione.h"
 #include "CombiFiltroA.h"
+#include "F_VerificaArchivio.h"
 #include "ServizioDialoghiQt.h"
 #include "StampaSchedine.h"
 #include "SviluppoParallelo.h"
@@ -50,6 +52,12 @@ FinestraPrincipale::FinestraPrincipale(std::unique_ptr<ServizioDialoghi> dialogh
     QMenu* sviluppo = menuBar()->addMenu("&Sviluppo");
     sviluppo->addAction("Sviluppo &parallelo", parallelo_, &SviluppoParallelo::Avvia);
     sviluppo->addAction("&Processi di sviluppo...", this, &FinestraPrincipale::ChiediProcessi);
+    QMenu* strumenti = menuBar()->addMenu("S&trumenti");
+    strumenti->addAction("Verifica su &archivio...", this, [this] {
+        QSettings impostazioni;
+        F_VerificaArchivio verifica(*controllo_, *dialoghi_, impostazioni, this);
+        verifica.exec();
+    });
     QMenu* aiuto = menuBar()->addMenu("&?");
     aiuto->addAction("&Informazioni", this, [this] {
         QMessageBox::about(this, "CombiFiltro",
