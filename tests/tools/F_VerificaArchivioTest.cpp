@@ -4,7 +4,9 @@
 #include <QChartView>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QDir>
 #include <QDoubleSpinBox>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -221,3 +223,29 @@ TEST(F_VerificaArchivio, StopAskedDuringTheCheckKeepsTheDrawsAlreadyChecked) {
 }
 
 }  // namespace
+
+// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// the pages over the synthetic archive are saved as pictures.
+TEST(Screenshot, VerificaArchivio) {
+    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
+    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
+    QDir().mkpath(cartella);
+    Prova p;
+    p.impostazioni.setValue("VerificaArchivio/Archivio",
+                            QFileInfo(__FILE__).dir().filePath("../../esempi/ArchivioSintetico.txt"));
+    p.b.NumeriDa1A(20);
+    p.b.c.setClasse(5);
+    p.b.c.GestSviluppo();
+    F_VerificaArchivio f(p.b.c, p.b.dialoghi, p.impostazioni);
+    f.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&f));
+    Prova::Premio(f, 2, "2,5");
+    Prova::Premio(f, 3, "45");
+    f.XPButton1(0)->click();
+    const char* nomi[4] = {"archivio-riepilogo", "archivio-estrazioni", "archivio-grafico", "archivio-bilancio"};
+    for (int pagina = 0; pagina < 4; ++pagina) {
+        f.TabRisultati()->setCurrentIndex(pagina);
+        QTest::qWait(200);
+        EXPECT_TRUE(f.grab().save(cartella + "/" + nomi[pagina] + ".png"));
+    }
+}
