@@ -5,7 +5,9 @@
 // won per year. Lines of the archive that are not draws are reported on the
 // error stream with their line number; the rest is used.
 
+#include <charconv>
 #include <iomanip>
+#include <locale>
 #include <ostream>
 #include <sstream>
 
@@ -36,16 +38,13 @@ DataEstrazione Data(const Argomenti& a, const char* nome, DataEstrazione predefi
     return *data;
 }
 
-// A decimal number >= 0 with "." before the decimals: "1", "0.5".
+// A decimal number >= 0 with "." before the decimals: "1", "0.5", whatever
+// the user's locale (from_chars does not look at it).
 double Importo(const std::string& testo, const std::string& nome) {
-    size_t letti = 0;
     double valore = -1;
-    try {
-        valore = std::stod(testo, &letti);
-    } catch (const std::exception&) {
-        letti = 0;
-    }
-    if (letti == 0 || letti != testo.size() || !(valore >= 0) || valore > 1e12)
+    const auto [fine, errore] = std::from_chars(testo.data(), testo.data() + testo.size(), valore);
+    if (testo.empty() || errore != std::errc() || fine != testo.data() + testo.size() || !(valore >= 0) ||
+        valore > 1e12)
         throw ErroreUso{nome + " deve essere un importo non negativo, come 1 o 0.50: \"" + testo + "\""};
     return valore;
 }
@@ -88,8 +87,10 @@ ParametriStorico Parametri(const Argomenti& a) {
     return p;
 }
 
+// Amounts as they are typed, with "." before the decimals, in any locale.
 std::string Euro(double valore) {
     std::ostringstream s;
+    s.imbue(std::locale::classic());
     s << std::fixed << std::setprecision(2) << valore;
     return s.str();
 }
