@@ -254,7 +254,10 @@ void F_VerificaArchivio::Esegui() {
     MostraRiepilogo();
     MostraEstrazioni();
     MostraBilancio();
-    grafico_->setChart(CreaGraficoVincite(esito_));  // the view deletes the previous chart
+    // The view owns the new chart and lets go of the old one without deleting it.
+    QChart* vecchio = grafico_->chart();
+    grafico_->setChart(CreaGraficoVincite(esito_));
+    delete vecchio;
     labInfo_->setText(esito_.interrotto ? QString("Interrotta dopo %1 estrazioni su %2")
                                               .arg(esito_.estrazioni.size())
                                               .arg(esito_.daControllare)
