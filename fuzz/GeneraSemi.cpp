@@ -145,6 +145,8 @@ void SemiArgomenti() {
         {"info", "F.col"},
         {"riduci", "I.col", "--punti", "5", "--colonne", "O.col", "--riferimento"},
         {"spoglio", "I.col", "--estrazione", "5,12,90", "--minimo", "2", "--classe", "6"},
+        {"storico", "I.col", "--archivio", "A.txt", "--gioco", "Lotto", "--ruota", "Bari", "--dal", "2020-01-01",
+         "--al", "2024-12-31", "--minimo", "2", "--posta", "0.5", "--premi", "2=10,3=100"},
     };
     for (const auto& parole : righe) {
         std::string s;
