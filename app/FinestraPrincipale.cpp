@@ -6,6 +6,7 @@
 #include <QInputDialog>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QSettings>
 
 #include "ArchivioQSettings.h"
 #include "CollegaEditori.h"
@@ -13,6 +14,7 @@
 #include "EditoreCondizione.h"
 #include "ChiaviComandi.h"
 #include "CombiFiltroA.h"
+#include "F_VerificaArchivio.h"
 #include "ServizioDialoghiQt.h"
 #include "StampaSchedine.h"
 #include "SviluppoParallelo.h"
@@ -51,6 +53,12 @@ FinestraPrincipale::FinestraPrincipale(std::unique_ptr<ServizioDialoghi> dialogh
     QMenu* sviluppo = menuBar()->addMenu("&Sviluppo");
     sviluppo->addAction("Sviluppo &parallelo", parallelo_, &SviluppoParallelo::Avvia);
     sviluppo->addAction("&Processi di sviluppo...", this, &FinestraPrincipale::ChiediProcessi);
+    QMenu* strumenti = menuBar()->addMenu("S&trumenti");
+    strumenti->addAction("Verifica su &archivio...", this, [this] {
+        QSettings impostazioni;
+        F_VerificaArchivio verifica(*controllo_, *dialoghi_, impostazioni, this);
+        verifica.exec();
+    });
     QMenu* aiuto = menuBar()->addMenu("&?");
     aiuto->addAction("&Informazioni", this, [this] {
         if (controllo_->InSviluppo()) return;  // only "Stop" reacts while developing

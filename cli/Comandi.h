@@ -16,6 +16,7 @@ int ComandoConta(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoInfo(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoRiduci(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoSpoglio(const Parole& parole, std::ostream& out, std::ostream& err);
+int ComandoStorico(const Parole& parole, std::ostream& out, std::ostream& err);
 
 // Runs the whole command line (argv[1..]): dispatch, usage and error report.
 int Esegui(const Parole& parole, std::ostream& out, std::ostream& err);

@@ -26,6 +26,9 @@ const Comando kComandi[] = {
     {"info", ComandoInfo, "info FILE.sic|FILE.col"},
     {"riduci", ComandoRiduci, "riduci COLONNE.col --punti P --colonne OUT.col [--riferimento]"},
     {"spoglio", ComandoSpoglio, "spoglio COLONNE.col --estrazione 5,12,90 [--minimo P] [--classe K]"},
+    {"storico", ComandoStorico,
+     "storico COLONNE.col --archivio FILE --gioco Lotto|10ELotto|SuperEnalotto [--ruota Bari] "
+     "[--dal 2020-01-01] [--al 2024-12-31] [--minimo P] [--posta 1] [--premi 2=250,3=4500]"},
 };
 
 void Uso(std::ostream& err) {

@@ -1,6 +1,7 @@
 // Writes the seed corpora of the fuzz targets, one folder per target, with
 // the project's own writers: the example system and variants of it, its grid
-// texts, columns it develops, and typical texts of the host and the user.
+// texts, columns it develops, typical texts of the host and the user, and the
+// synthetic archive of draws that sits beside the example.
 //   GeneraSemi ESEMPIO.sic CARTELLA
 #include <algorithm>
 #include <cstdio>
@@ -110,6 +111,24 @@ void SemiSpoglio(const FileSistema& esempio) {
            Unisci({{11, 6}, Testo("1,5,9,13,17,21,25,29,33,37,41,45,49,53,57,61,65,69,73,77")}));
 }
 
+// The first months of the synthetic archive beside the example (a seed
+// stays small: long inputs slow every run), a mix of separators and date
+// forms, and one line of every refusal.
+void SemiArchivio(const fs::path& sintetico) {
+    std::ifstream in(sintetico, std::ios::binary);
+    std::string inizio, riga;
+    for (int n = 0; n < 50 && std::getline(in, riga); ++n) inizio += riga + "\n";
+    Scrivi("FuzzArchivio", "sintetico.txt", Testo(inizio));
+    Scrivi("FuzzArchivio", "forme.txt",
+           Testo("\xEF\xBB\xBF# commento\r\n12/03/2024 , roma\t1 2 3 4 5\r\n\n"
+                 "2024-3-2;SuperEnalotto;1;2;3;4;5;6;7;1\n2024-03-02;10ELotto;1;2;3;4;5;6;7;8;9;10;11;12;13;14;15;"
+                 "16;17;18;19;20\n"));
+    Scrivi("FuzzArchivio", "scartate.txt",
+           Testo("2024-02-30;Bari;1;2;3;4;5\n2024-03-14;Bar;1;2;3;4;5\n2024-03-14;Bari;1;2;3;4\n"
+                 "2024-03-14;Bari;1;2;3;4;91\n2024-03-14;Bari;1;2;3;4;4\n2024-03-14;Bari;1;2;x;4;5\n2024-03-14\n"
+                 "2024-03-14;Bari;1;2;3;4;5\n2024-03-14;Bari;6;7;8;9;10\n"));
+}
+
 void SemiParametri() {
     const std::pair<int, std::string> testi[] = {
         {kPariDispari, "Pari\r\n2,3,4|1,5"}, {kResto, "3\r\n0,1|2"}, {kVortice, "Diretto\r\n2,3,4"},
@@ -126,6 +145,8 @@ void SemiArgomenti() {
         {"info", "F.col"},
         {"riduci", "I.col", "--punti", "5", "--colonne", "O.col", "--riferimento"},
         {"spoglio", "I.col", "--estrazione", "5,12,90", "--minimo", "2", "--classe", "6"},
+        {"storico", "I.col", "--archivio", "A.txt", "--gioco", "Lotto", "--ruota", "Bari", "--dal", "2020-01-01",
+         "--al", "2024-12-31", "--minimo", "2", "--posta", "0.5", "--premi", "2=10,3=100"},
     };
     for (const auto& parole : righe) {
         std::string s;
@@ -149,6 +170,7 @@ int main(int argc, char** argv) {
         SemiGriglia(esempio);
         SemiColonne(esempio);
         SemiSpoglio(esempio);
+        SemiArchivio(fs::path(argv[1]).parent_path() / "ArchivioSintetico.txt");
         SemiParametri();
         SemiArgomenti();
     } catch (const Errore& e) {

@@ -10,7 +10,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 runs=${RUNS:-10000000}
 secondi=${SECONDI:-1800}
-tutti=(FuzzFileSistema FuzzFileColonne FuzzRiduzione FuzzTestiGriglia FuzzParametri FuzzSpoglio FuzzArgomenti)
+tutti=(FuzzFileSistema FuzzFileColonne FuzzRiduzione FuzzTestiGriglia FuzzParametri FuzzSpoglio FuzzArgomenti
+       FuzzArchivio)
 targets=("$@")
 [ ${#targets[@]} -eq 0 ] && targets=("${tutti[@]}")
 

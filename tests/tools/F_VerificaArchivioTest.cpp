@@ -1,0 +1,251 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QChartView>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLineSeries>
+#include <QPushButton>
+#include <QSettings>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include <fstream>
+
+#include "../control/Banco.h"
+#include "F_Spoglio.h"
+#include "F_VerificaArchivio.h"
+
+namespace {
+
+using Righe = std::vector<QStringList>;
+
+Righe Contenuto(const QTreeWidget* lista) {
+    Righe righe;
+    for (int r = 0; r < lista->topLevelItemCount(); ++r) {
+        QStringList testi;
+        for (int c = 0; c < lista->columnCount(); ++c) testi << lista->topLevelItem(r)->text(c);
+        righe.push_back(testi);
+    }
+    return righe;
+}
+
+// Four class-3 columns in a class-6 control, the archive of the engine's
+// hand-worked test (their points are worked out there) with one line that is
+// not a draw, and settings of its own.
+struct Prova {
+    QTemporaryDir cartella;
+    QSettings impostazioni{cartella.filePath("prova.ini"), QSettings::IniFormat};
+    Banco b;
+    QString archivio = cartella.filePath("archivio.txt");
+
+    Prova() {
+        b.c.setClasse(6);
+        b.c.ImpostaColonneSviluppo({combi::Colonna{}, {{1, 2, 3}}, {{1, 4, 5}}, {{2, 4, 6}}, {{7, 8, 9}}});
+        std::ofstream(archivio.toStdString()) << "# prova\n"
+                                                 "11/01/2024;Bari;4;5;6;60;61\n"
+                                                 "2024-01-02;Bari;1;2;4;10;11\n"
+                                                 "2024-01-04 Roma 1 2 3 40 41\n"
+                                                 "2024-01-04;Bari;20;21;22;23;24\n"
+                                                 "2024-01-05;Bari;20;21;22;23\n"
+                                                 "2024-01-06;Bari;7;30;31;32;33\n"
+                                                 "2024-01-09;Bari;50;51;52;53;54\n"
+                                                 "2023-12-28;Bari;80;81;82;83;84\n";
+        impostazioni.setValue("VerificaArchivio/Archivio", archivio);
+    }
+    // The prize of `punti` typed into its row of the table.
+    static void Premio(F_VerificaArchivio& f, int punti, const QString& testo) {
+        QTableWidget* g = f.GrdPremi();
+        for (int r = 0; r < g->rowCount(); ++r)
+            if (g->item(r, 0)->text() == QString::number(punti)) g->item(r, 1)->setText(testo);
+    }
+};
+
+TEST(F_VerificaArchivio, OpensOnTheRememberedArchiveAndTheControlsGame) {
+    Prova p;
+    F_VerificaArchivio f(p.b.c, p.b.dialoghi, p.impostazioni);
+    EXPECT_EQ(f.windowTitle(), "Verifica su archivio");
+    EXPECT_EQ(f.LabArchivio()->text(), p.archivio);
+    EXPECT_EQ(f.LabInfo()->text(), "Estrazioni lette: 7, righe scartate: 1");
+    ASSERT_EQ(p.b.dialoghi.boxes.size(), 1u);
+    EXPECT_EQ(p.b.dialoghi.boxes[0].tipo, "esclamazione");
+    EXPECT_EQ(p.b.dialoghi.boxes[0].testo, "L'archivio ha 1 righe che non sono estrazioni valide:\n"
+                                           "Riga 6: Bari vuole 5 numeri: la riga ne ha 4");
+    EXPECT_EQ(f.CmbGioco()->currentText(), "Lotto");
+    EXPECT_TRUE(f.CmbRuota()->isEnabled());
+    EXPECT_EQ(f.CmbPuntiMin()->currentText(), "2");
+    EXPECT_EQ(f.TxtDal()->date(), QDate(2023, 12, 28));
+    EXPECT_EQ(f.TxtAl()->date(), QDate(2024, 1, 11));
+    EXPECT_EQ(f.GrdPremi()->rowCount(), 6);  // class 6, but Lotto draws five: 5..0 points
+
+    f.CmbRuota()->setCurrentIndex(3);
+    f.CmbGioco()->setCurrentText("SuperEnalotto");
+    EXPECT_FALSE(f.CmbRuota()->isEnabled());
+    EXPECT_EQ(f.CmbRuota()->currentText(), "Tutte");
+    EXPECT_EQ(f.CmbPuntiMin()->currentText(), "3");
+    EXPECT_EQ(f.GrdPremi()->rowCount(), 7);
+
+    // The control's game picks the dialog's: both 10ELotto games draw twenty numbers.
+    for (auto [giocoControllo, atteso] : {std::pair{2, "10ELotto"}, std::pair{3, "SuperEnalotto"}}) {
+        p.b.c.CmbTipoGioco()->setCurrentIndex(giocoControllo);
+        F_VerificaArchivio altro(p.b.c, p.b.dialoghi, p.impostazioni);
+        EXPECT_EQ(altro.CmbGioco()->currentText(), atteso);
+    }
+
+    // Nothing to check: a message instead of a run.
+    p.b.dialoghi.boxes.clear();
+    p.b.c.ImpostaColonneSviluppo({combi::Colonna{}});
+    f.XPButton1(0)->click();
+    ASSERT_EQ(p.b.dialoghi.boxes.size(), 1u);
+    EXPECT_EQ(p.b.dialoghi.boxes[0].testo, "Nessuna colonna da verificare: sviluppare prima il sistema");
+    p.impostazioni.remove("VerificaArchivio/Archivio");
+    F_VerificaArchivio senzaArchivio(p.b.c, p.b.dialoghi, p.impostazioni);
+    senzaArchivio.XPButton1(0)->click();
+    EXPECT_EQ(p.b.dialoghi.Ultimo()->testo, "Scegliere l'archivio delle estrazioni");
+}
+
+TEST(F_VerificaArchivio, ShowsTheDrawsWithHitsTheChartAndTheMoneyOfThePrizesTyped) {
+    Prova p;
+    {
+        F_VerificaArchivio f(p.b.c, p.b.dialoghi, p.impostazioni);
+        p.b.dialoghi.boxes.clear();
+        f.TxtPosta()->setValue(2.5);
+        Prova::Premio(f, 2, "10");
+        Prova::Premio(f, 3, "100");
+        Prova::Premio(f, 4, "abc");
+        ASSERT_EQ(p.b.dialoghi.boxes.size(), 1u);
+        EXPECT_EQ(p.b.dialoghi.boxes[0].testo, "Premio non valido per 4 punti: \"abc\"");
+        f.XPButton1(0)->click();
+        EXPECT_EQ(p.b.dialoghi.boxes.size(), 1u);
+
+        EXPECT_EQ(Contenuto(f.LvRiepilogo()),
+                  (Righe{{"Vincite con 5 punti ", "0"},
+                         {"Vincite con 4 punti ", "0"},
+                         {"Vincite con 3 punti ", "1"},
+                         {"Vincite con 2 punti ", "5"},
+                         {"Estrazioni controllate", "7"},
+                         {"Estrazioni con vincite", "3"},
+                         {"Migliore estrazione", "04/01/2024 Roma 01 02 03 40 41 (3 punti: 1 colonna)"},
+                         {"Ritardo massimo", "2 estrazioni (dal 06/01/2024 al 09/01/2024)"}}));
+        // Only the draws with a column at two points or more; won = columns x prize x stake.
+        EXPECT_EQ(Contenuto(f.LvEstrazioni()), (Righe{{"2024-01-02", "Bari", "01 02 04 10 11", "2", "3", "75,00"},
+                                                      {"2024-01-04", "Roma", "01 02 03 40 41", "3", "1", "250,00"},
+                                                      {"2024-01-11", "Bari", "04 05 06 60 61", "2", "2", "50,00"}}));
+        EXPECT_EQ(Contenuto(f.LvBilancio()), (Righe{{"2023", "10,00", "0,00", "-10,00"},
+                                                    {"2024", "60,00", "375,00", "315,00"},
+                                                    {"Totale", "70,00", "375,00", "305,00"}}));
+        // The chart has one point per date, the wheels of a date added up.
+        const auto* serie = qobject_cast<QLineSeries*>(f.Grafico()->chart()->series().value(0));
+        ASSERT_NE(serie, nullptr);
+        QList<double> colonne;
+        for (const QPointF& punto : serie->points()) colonne << punto.y();
+        EXPECT_EQ(colonne, (QList<double>{0, 3, 1, 0, 0, 2}));
+        EXPECT_EQ(QDateTime::fromMSecsSinceEpoch(qint64(serie->points()[2].x())).date(), QDate(2024, 1, 4));
+
+        // Sorted by "Vincita" (numbers, descending), and still after a new check.
+        f.OrdinaEstrazioni(6);
+        f.XPButton1(0)->click();
+        QStringList vinte;
+        for (const QStringList& r : Contenuto(f.LvEstrazioni())) vinte << r[5];
+        EXPECT_EQ(vinte, (QStringList{"250,00", "75,00", "50,00"}));
+    }
+    // The stake and the prize table of this game and class are remembered; another game has its own.
+    F_VerificaArchivio riaperto(p.b.c, p.b.dialoghi, p.impostazioni);
+    EXPECT_DOUBLE_EQ(riaperto.TxtPosta()->value(), 2.5);
+    QStringList premi;
+    for (int r = 0; r < riaperto.GrdPremi()->rowCount(); ++r) premi << riaperto.GrdPremi()->item(r, 1)->text();
+    EXPECT_EQ(premi, (QStringList{"", "", "100,00", "10,00", "", ""}));
+    riaperto.CmbGioco()->setCurrentText("10ELotto");
+    for (int r = 0; r < riaperto.GrdPremi()->rowCount(); ++r) EXPECT_EQ(riaperto.GrdPremi()->item(r, 1)->text(), "");
+}
+
+TEST(F_VerificaArchivio, DoubleClickOpensTheWinningsCheckOnThatDraw) {
+    Prova p;
+    F_VerificaArchivio f(p.b.c, p.b.dialoghi, p.impostazioni);
+    f.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&f));
+    f.XPButton1(0)->click();
+    f.TabRisultati()->setCurrentIndex(1);
+    QApplication::processEvents();
+    QTreeWidget* lista = f.LvEstrazioni();
+    ASSERT_EQ(lista->topLevelItem(1)->text(1), "Roma");
+    Righe riepilogo;
+    QString numeri;
+    QTimer::singleShot(0, &f, [&] {
+        auto* spoglio = qobject_cast<F_Spoglio*>(QApplication::activeModalWidget());
+        ASSERT_NE(spoglio, nullptr);
+        numeri = spoglio->Text1()->text();
+        riepilogo = Contenuto(spoglio->ListView3());
+        spoglio->close();
+    });
+    const QRect riga = lista->visualItemRect(lista->topLevelItem(1));
+    // A user's double click starts with a click: the view pairs the two on the same row.
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, riga.center());
+    QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, riga.center());
+    EXPECT_EQ(numeri, "1,2,3,40,41");
+    EXPECT_EQ(riepilogo, (Righe{{"Vincite con 6 punti ", "0"},
+                                {"Vincite con 5 punti ", "0"},
+                                {"Vincite con 4 punti ", "0"},
+                                {"Vincite con 3 punti ", "1"},
+                                {"Vincite con 2 punti ", "0"}}));
+}
+
+TEST(F_VerificaArchivio, StopAskedDuringTheCheckKeepsTheDrawsAlreadyChecked) {
+    Prova p;
+    F_VerificaArchivio f(p.b.c, p.b.dialoghi, p.impostazioni);
+    f.ImpostaDivisione(1, 2);
+    p.b.dialoghi.risposte = {true};
+    QString testoDuranteLaVerifica;
+    bool verificaAbilitata = true;
+    QTimer::singleShot(0, &f, [&] {
+        testoDuranteLaVerifica = f.XPButton1(1)->text();
+        verificaAbilitata = f.XPButton1(0)->isEnabled();
+        f.XPButton1(1)->click();
+    });
+    f.XPButton1(0)->click();
+    EXPECT_EQ(testoDuranteLaVerifica, "STOP");
+    EXPECT_FALSE(verificaAbilitata);
+    EXPECT_EQ(p.b.dialoghi.Ultimo()->testo, "Interrompere ?");
+    EXPECT_TRUE(f.Esito().interrotto);
+    EXPECT_EQ(f.LabInfo()->text(), "Interrotta dopo 2 estrazioni su 7");
+    EXPECT_EQ(f.XPButton1(1)->text(), "CHIUDI");
+    EXPECT_TRUE(f.XPButton1(0)->isEnabled());
+}
+
+}  // namespace
+
+// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// the pages over the synthetic archive are saved as pictures.
+TEST(Screenshot, VerificaArchivio) {
+    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
+    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
+    QDir().mkpath(cartella);
+    Prova p;
+    p.impostazioni.setValue("VerificaArchivio/Archivio",
+                            QFileInfo(__FILE__).dir().filePath("../../esempi/ArchivioSintetico.txt"));
+    p.b.NumeriDa1A(20);
+    p.b.c.setClasse(5);
+    p.b.c.GestSviluppo();
+    F_VerificaArchivio f(p.b.c, p.b.dialoghi, p.impostazioni);
+    f.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&f));
+    Prova::Premio(f, 2, "2,5");
+    Prova::Premio(f, 3, "45");
+    f.XPButton1(0)->click();
+    const char* nomi[4] = {"archivio-riepilogo", "archivio-estrazioni", "archivio-grafico", "archivio-bilancio"};
+    for (int pagina = 0; pagina < 4; ++pagina) {
+        f.TabRisultati()->setCurrentIndex(pagina);
+        QTest::qWait(200);
+        EXPECT_TRUE(f.grab().save(cartella + "/" + nomi[pagina] + ".png"));
+    }
+}
