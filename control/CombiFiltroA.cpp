@@ -59,7 +59,7 @@ CombiFiltroA::CombiFiltroA(ArchivioProprieta* archivio, ServizioDialoghi* dialog
     // Restoring the persisted properties.
     const int16_t classeSalvata = archivio_->LeggiIntero(kChiaveClasse, kPredefinito);
     numeroThreads_ = archivio_->LeggiIntero(kChiaveThreads, kPredefinito);
-    RicreaCampiLavoratori();
+    lavoratori_->Ricrea(numeroThreads_);
     RiempiClasseERiduzione();
     AggiornaComandiColonne();
     classe_ = classeSalvata;
@@ -88,7 +88,7 @@ void CombiFiltroA::setClasse(int16_t valore) {
 void CombiFiltroA::setNumeroThreadsSviluppo(int16_t valore) {
     numeroThreads_ = valore;
     archivio_->ScriviIntero(kChiaveThreads, valore);
-    RicreaCampiLavoratori();
+    lavoratori_->Ricrea(numeroThreads_);
 }
 
 int32_t CombiFiltroA::QuantitaColonne() const {

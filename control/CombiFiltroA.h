@@ -21,10 +21,12 @@
 #include <memory>
 #include <vector>
 
+#include "CampiLavoratori.h"
 #include "Colonna.h"
 #include "ColonneSviluppate.h"
 #include "Condizione.h"
 #include "FileSistema.h"
+#include "Sviluppo.h"
 
 namespace combi {
 class OsservatoreRiduzione;
@@ -182,9 +184,9 @@ public:
     QLineEdit* LabCondizionate() const { return labCondizionate_; }
     QLineEdit* LabGaranzia() const { return labGaranzia_; }
     // Hidden fields of the external workers, i = 1..NumeroThreadsSviluppo.
-    QLineEdit* TxtPMin(int i) const;
-    QLineEdit* TxtPMax(int i) const;
-    QLineEdit* txtMsgFromDll(int i) const;
+    QLineEdit* TxtPMin(int i) const { return lavoratori_->TxtPMin(i); }
+    QLineEdit* TxtPMax(int i) const { return lavoratori_->TxtPMax(i); }
+    QLineEdit* txtMsgFromDll(int i) const { return lavoratori_->txtMsgFromDll(i); }
 
     bool SistemaModificato() const { return modificato_; }
     void SegnaModificato() { modificato_ = true; }
@@ -251,8 +253,6 @@ signals:
     void StampaSk(QString& sTipogioco);
 
 private:
-    friend class OsservatorePannello;
-
     // Panel (CombiFiltroAPannello.cpp)
     void CostruisciPannello();
     QWidget* CostruisciBarra();
@@ -273,9 +273,7 @@ private:
     void StampaSchedine();
     void EseguiVoceMenu(const QString& chiave);
     void EseguiEsterno(const QString& chiave);
-    void RicreaCampiLavoratori();
     void ControllaCompletamento();
-    void AggiornaContatoriLavoratori();
     void ChiediStop();
 
     // Grid (CombiFiltroAGriglia.cpp)
@@ -284,7 +282,7 @@ private:
     std::unique_ptr<EditoreCondizione> CreaEditore(int tipo);
 
     // Development (CombiFiltroASviluppo.cpp)
-    void SviluppoInterno();
+    combi::EsitoSviluppo SviluppoInterno();
     // The view of a reduction about to start (CombiFiltroA.cpp).
     std::unique_ptr<combi::OsservatoreRiduzione> VistaDellaRiduzione();
 
@@ -315,9 +313,7 @@ private:
     QLineEdit* labCondizionate_ = nullptr;
     QLineEdit* labGaranzia_ = nullptr;
     QLabel* labColoreColSel_ = nullptr;
-    QWidget* contenitoreLavoratori_ = nullptr;
-    std::vector<QLineEdit*> txtPMin_, txtPMax_, txtMsgFromDll_;  // element 0 unused
-    std::vector<int32_t> testateLavoratori_, tenuteLavoratori_;
+    CampiLavoratori* lavoratori_ = nullptr;
     double inizioEsterno_ = 0;  // clock reading when the workers were started
 
     // State

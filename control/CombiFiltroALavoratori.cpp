@@ -43,24 +43,13 @@ void CombiFiltroA::IniziaSviluppoEsterno() {
     colonne_.Svuota();
     condizioniSviluppo_.clear();
     richiestaStop_ = false;
-    for (QLineEdit* campo : txtMsgFromDll_) {
-        if (campo) campo->clear();
-    }
-    for (size_t i = 1; i < txtPMin_.size(); ++i) {
-        txtPMin_[i]->setText("0");
-        txtPMax_[i]->setText("0");
-    }
+    lavoratori_->Azzera();
     ImpostaStatoSviluppo(true);
 }
 
 void CombiFiltroA::AnnullaSviluppoEsterno() {
     // Some workers may already have reported: their partial results are dropped.
-    for (QLineEdit* campo : txtMsgFromDll_) {
-        if (campo) {
-            const QSignalBlocker blocco(campo);
-            campo->clear();
-        }
-    }
+    lavoratori_->SvuotaCompletamento(true);
     colonne_.Svuota();
     if (inSviluppo_) ImpostaStatoSviluppo(false);
 }
@@ -68,19 +57,15 @@ void CombiFiltroA::AnnullaSviluppoEsterno() {
 // Runs on every change of a completion field. Clearing the fields below
 // raises further changes; they find fewer than W filled and stop at once.
 void CombiFiltroA::ControllaCompletamento() {
-    int compilati = 0;
-    for (size_t i = 1; i < txtMsgFromDll_.size(); ++i) {
-        if (!txtMsgFromDll_[i]->text().trimmed().isEmpty()) ++compilati;
-    }
-    const int lavoratori = static_cast<int>(txtMsgFromDll_.size()) - 1;  // W, as far as fields exist
-    if (lavoratori < 1 || compilati != lavoratori) return;
+    const QStringList file = lavoratori_->FileCompleti();
+    if (file.isEmpty()) return;
     const bool accodati = EseguiProtetta(*dialoghi_, "CombiFiltro.txtMsgFromDll_Change", [&] {
-        for (size_t i = 1; i < txtMsgFromDll_.size(); ++i) AccodaFileColonne(txtMsgFromDll_[i]->text().trimmed());
+        for (const QString& f : file) AccodaFileColonne(f);
     });
     // One worker's columns missing would leave a hole in the enumeration:
     // after the report nothing is kept.
     if (!accodati) colonne_.Svuota();
-    for (size_t i = 1; i < txtMsgFromDll_.size(); ++i) txtMsgFromDll_[i]->clear();
+    lavoratori_->SvuotaCompletamento(false);
     ImpostaStatoSviluppo(false);
     if (!accodati) return;
     const auto secondi = static_cast<int32_t>(std::lround(orologio_() - inizioEsterno_));

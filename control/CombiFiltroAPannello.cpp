@@ -18,6 +18,7 @@
 #include <cmath>
 
 #include "ArchivioProprieta.h"
+#include "CampiLavoratori.h"
 #include "ChiaviComandi.h"
 #include "ComandiPannello.h"
 #include "Conteggi.h"
@@ -29,10 +30,6 @@
 #include "UtilitaSchermo.h"
 
 namespace {
-
-// Workers beyond this many get no progress fields: a mistyped thread count
-// must not build thousands of hidden widgets.
-constexpr int kMassimoLavoratori = 256;
 
 QLineEdit* CampoLettura(QWidget* genitore, const char* nome) {
     auto* campo = new QLineEdit(genitore);
@@ -79,8 +76,14 @@ void CombiFiltroA::CostruisciPannello() {
         modificato_ = true;
     });
 
-    contenitoreLavoratori_ = new QWidget(this);
-    contenitoreLavoratori_->hide();
+    auto* contenitoreLavoratori = new QWidget(this);
+    contenitoreLavoratori->hide();
+    lavoratori_ = new CampiLavoratori(contenitoreLavoratori);
+    connect(lavoratori_, &CampiLavoratori::ContatoriCambiati, this, [this](double testate, double tenute) {
+        labSviluppate_->setText(TestoContatore(testate));
+        labCondizionate_->setText(TestoContatore(tenute));
+    });
+    connect(lavoratori_, &CampiLavoratori::CompletamentoCambiato, this, [this] { ControllaCompletamento(); });
 }
 
 QWidget* CombiFiltroA::CostruisciBarra() {
@@ -376,59 +379,4 @@ void CombiFiltroA::RicostruisciQuadri(const std::array<std::array<QString, 2>, 2
         }
     }
     modificato_ = true;
-}
-
-// ---- Hidden fields of the external workers ----
-
-QLineEdit* CombiFiltroA::TxtPMin(int i) const {
-    return i >= 1 && i < int(txtPMin_.size()) ? txtPMin_[i] : nullptr;
-}
-
-QLineEdit* CombiFiltroA::TxtPMax(int i) const {
-    return i >= 1 && i < int(txtPMax_.size()) ? txtPMax_[i] : nullptr;
-}
-
-QLineEdit* CombiFiltroA::txtMsgFromDll(int i) const {
-    return i >= 1 && i < int(txtMsgFromDll_.size()) ? txtMsgFromDll_[i] : nullptr;
-}
-
-void CombiFiltroA::RicreaCampiLavoratori() {
-    for (auto* campi : {&txtPMin_, &txtPMax_, &txtMsgFromDll_}) {
-        for (QLineEdit* campo : *campi) delete campo;
-        campi->assign(1, nullptr);
-    }
-    const int quanti = std::clamp<int>(numeroThreads_, 0, kMassimoLavoratori);
-    testateLavoratori_.assign(quanti + 1, 0);
-    tenuteLavoratori_.assign(quanti + 1, 0);
-    for (int i = 1; i <= quanti; ++i) {
-        auto* minimo = new QLineEdit(contenitoreLavoratori_);
-        auto* massimo = new QLineEdit(contenitoreLavoratori_);
-        auto* messaggio = new QLineEdit(contenitoreLavoratori_);
-        minimo->setObjectName(QString("TxtPMin_%1").arg(i));
-        massimo->setObjectName(QString("TxtPMax_%1").arg(i));
-        messaggio->setObjectName(QString("txtMsgFromDll_%1").arg(i));
-        connect(minimo, &QLineEdit::textChanged, this, [this, i](const QString& testo) {
-            testateLavoratori_[i] = combi::LeggiInt32(testo.toStdString());
-            AggiornaContatoriLavoratori();
-        });
-        connect(massimo, &QLineEdit::textChanged, this, [this, i](const QString& testo) {
-            tenuteLavoratori_[i] = combi::LeggiInt32(testo.toStdString());
-            AggiornaContatoriLavoratori();
-        });
-        connect(messaggio, &QLineEdit::textChanged, this, [this] { ControllaCompletamento(); });
-        txtPMin_.push_back(minimo);
-        txtPMax_.push_back(massimo);
-        txtMsgFromDll_.push_back(messaggio);
-    }
-}
-
-void CombiFiltroA::AggiornaContatoriLavoratori() {
-    double testate = 0;
-    double tenute = 0;
-    for (size_t i = 1; i < testateLavoratori_.size(); ++i) {
-        testate += testateLavoratori_[i];
-        tenute += tenuteLavoratori_[i];
-    }
-    labSviluppate_->setText(TestoContatore(testate));
-    labCondizionate_->setText(TestoContatore(tenute));
 }

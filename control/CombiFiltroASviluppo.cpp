@@ -27,36 +27,43 @@
 #include "UtilitaSchermo.h"
 #include "Formato.h"
 
+namespace {
+
 // The engine calls back every 10000 columns, which can be tens of thousands
 // of times a second: after the first time, the counters are redrawn and
 // pending events run only as often as a user can see, and the final counts
 // are shown by the caller.
 class OsservatorePannello : public combi::OsservatoreSviluppo {
 public:
-    explicit OsservatorePannello(CombiFiltroA& controllo) : controllo_(controllo) {}
+    OsservatorePannello(QLineEdit& sviluppate, QLineEdit& condizionate, const bool& stop)
+        : sviluppate_(sviluppate), condizionate_(condizionate), stop_(stop) {}
 
     void Progresso(uint64_t testate, uint64_t tenute) override {
         if (disegno_.isValid() && disegno_.elapsed() < kMillisecondiTraDisegni) return;
         disegno_.start();
         Mostra(testate, tenute);
     }
-    bool RichiestaStop() override { return controllo_.richiestaStop_; }
+    bool RichiestaStop() override { return stop_; }
     void ElaboraMessaggi() override {
         if (pompa_.isValid() && pompa_.elapsed() < kMillisecondiTraPompe) return;
         pompa_.start();
         QApplication::processEvents();
     }
     void Mostra(uint64_t testate, uint64_t tenute) {
-        controllo_.labSviluppate_->setText(TestoContatore(static_cast<double>(testate)));
-        controllo_.labCondizionate_->setText(TestoContatore(static_cast<double>(tenute)));
+        sviluppate_.setText(TestoContatore(static_cast<double>(testate)));
+        condizionate_.setText(TestoContatore(static_cast<double>(tenute)));
     }
 
 private:
     static constexpr qint64 kMillisecondiTraDisegni = 50;
     static constexpr qint64 kMillisecondiTraPompe = 15;
-    CombiFiltroA& controllo_;
+    QLineEdit& sviluppate_;
+    QLineEdit& condizionate_;
+    const bool& stop_;
     QElapsedTimer disegno_, pompa_;
 };
+
+}  // namespace
 
 namespace {
 
@@ -86,38 +93,30 @@ void CombiFiltroA::GestSviluppo() {
         // A monotonic-enough wall clock in seconds: unlike the seconds since
         // midnight it does not go negative across midnight.
         const double inizio = orologio_();
-        SviluppoInterno();
+        const combi::EsitoSviluppo esito = SviluppoInterno();
         const auto secondi = static_cast<int32_t>(std::lround(orologio_() - inizio));
-        dialoghi_->Informazione(QString(), "Fine sviluppo \r\n" +
-                                               QString::fromStdString(combi::TempoTrascorso(secondi)));
+        QString testo = "Fine sviluppo \r\n" + QString::fromStdString(combi::TempoTrascorso(secondi));
+        if (esito.interrotto)
+            testo += "\r\nSviluppo interrotto dopo " + TestoContatore(double(esito.testate)) + " colonne";
+        dialoghi_->Informazione(QString(), testo);
     });
 }
 
-void CombiFiltroA::SviluppoInterno() {
+combi::EsitoSviluppo CombiFiltroA::SviluppoInterno() {
     colonne_.Svuota();
     condizioniSviluppo_.clear();
     labSviluppate_->setText("0");
     labCondizionate_->setText("0");
     StatoSviluppo stato([this](bool inCorso) { ImpostaStatoSviluppo(inCorso); });
-
-    combi::ParametriSviluppo parametri;
-    for (int n = 1; n <= combi::kMaxNumero; ++n) {
-        if (numeri_->Selezionato(n)) parametri.numeri.push_back(n);
-    }
-    parametri.classe = combi::LeggiInt16(cmbClasse_->currentText().toStdString());
-    parametri.riduzione = combi::LeggiInt16(cmbRid_->currentText().toStdString());
-    combi::SistemaDecodificato sistema = combi::LeggiCondizioni(LeggiTestiGriglia(*griglia_, *lbQuadroRec_));
-    parametri.condizioni = std::move(sistema.condizioni);
-    parametri.quadri = sistema.quadri;
-
+    const combi::ParametriSviluppo parametri = combi::ParametriDalFile(SistemaCorrente());
     richiestaStop_ = false;
-    OsservatorePannello osservatore(*this);
-    combi::OpzioniSviluppo opzioni;
-    opzioni.thread = threadMotore_;
+    OsservatorePannello osservatore(*labSviluppate_, *labCondizionate_, richiestaStop_);
     try {
-        combi::EsitoSviluppo esito = combi::SviluppaSistema(parametri, osservatore, &colonne_, opzioni);
+        combi::EsitoSviluppo esito =
+            combi::SviluppaSistema(parametri, osservatore, &colonne_, {.thread = threadMotore_, .quota = {}});
         osservatore.Mostra(esito.testate, esito.tenute);
-        condizioniSviluppo_ = std::move(esito.condizioni);
+        condizioniSviluppo_ = esito.condizioni;
+        return esito;
     } catch (...) {
         colonne_.Svuota();  // a failed run keeps no column
         throw;

@@ -117,6 +117,10 @@ TEST(SviluppoPannello, StopAskedDuringTheDevelopment) {
         EXPECT_TRUE(b.dialoghi.dialoghiFile.empty());
         EXPECT_EQ(testi[0], "Interrompere ?");
         EXPECT_TRUE(testi[1].startsWith("Fine sviluppo \r\n"));
+        // A stopped run says so, and where it stopped; a whole one does not.
+        const qsizetype stop = testi[1].indexOf("\r\nSviluppo interrotto dopo ");
+        EXPECT_EQ(stop >= 0, interrompi);
+        if (interrompi) EXPECT_EQ(Cifre(testi[1].mid(stop)), "20000");
         const int attese = interrompi ? 20000 : 53130;
         EXPECT_EQ(b.c.QuantitaColonne(), attese);
         EXPECT_EQ(Cifre(b.c.LabSviluppate()->text()), QString::number(attese));
