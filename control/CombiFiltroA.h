@@ -210,7 +210,11 @@ public:
     // IniziaSviluppoEsterno (start time, busy panel, no columns); the workers'
     // completion fields then end the run. AnnullaSviluppoEsterno ends it
     // without a result (a worker failed or the user stopped it).
-    void IniziaSviluppoEsterno();
+    // `cartellaCorsa`: the run's own folder, where the workers leave their
+    // counters (empty: the temporary folder). `riduciAllaFine`: the workers
+    // developed without "Riduzione N-K", which a share cannot apply alone;
+    // the merge applies the panel's over the merged columns.
+    void IniziaSviluppoEsterno(const QString& cartellaCorsa = QString(), bool riduciAllaFine = false);
     void AnnullaSviluppoEsterno();
     // Replaces the developed columns (element 0 empty), e.g. after a reduction.
     void ImpostaColonneSviluppo(std::vector<combi::Colonna> colonne);
@@ -274,6 +278,7 @@ private:
     void EseguiVoceMenu(const QString& chiave);
     void EseguiEsterno(const QString& chiave);
     void ControllaCompletamento();
+    void RiduciColonneUnite();
     void ChiediStop();
 
     // Grid (CombiFiltroAGriglia.cpp)
@@ -315,6 +320,8 @@ private:
     QLabel* labColoreColSel_ = nullptr;
     CampiLavoratori* lavoratori_ = nullptr;
     double inizioEsterno_ = 0;  // clock reading when the workers were started
+    QString cartellaCorsa_;     // where the last external run's workers left their files
+    bool riduciAllaFine_ = false;
 
     // State
     QString dirSistemi_;

@@ -5,12 +5,17 @@
 
 #include "CombiFiltroA.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QSignalBlocker>
 
 #include <cmath>
 
 #include "ContatoriLavoratori.h"
+#include "LetturaNumero.h"
+#include "ProtocolloLavoratori.h"
+#include "UnioneQuote.h"
+#include "UtilitaSchermo.h"
 #include "FileBinario.h"
 #include "FileColonne.h"
 #include "SegnalazioneErrori.h"
@@ -23,7 +28,8 @@ void CombiFiltroA::RaccogliCondizioni(combi::TabellaCondizioni& tabella) const {
         tabella = condizioniSviluppo_;
         return;
     }
-    tabella = combi::SommaContatoriLavoratori(combi::FileSistemaTemp(), numeroThreads_);
+    const std::string cartella = cartellaCorsa_.isEmpty() ? combi::CartellaTemp() : combi::AggiungiBarra(cartellaCorsa_.toStdString());
+    tabella = combi::SommaContatoriLavoratori(combi::FileSistemaDellaCorsa(cartella), numeroThreads_);
 }
 
 // The count is the length / 20 rounded, halves to the even neighbour, so a
@@ -37,8 +43,22 @@ void CombiFiltroA::AccodaFileColonne(const QString& file) {
     colonne_.Accoda(combi::DecodificaColonne(dati.data(), dati.size()));
 }
 
-void CombiFiltroA::IniziaSviluppoEsterno() {
+// "Riduzione N-K" over the merged shares, in enumeration order, as one
+// development applies it.
+void CombiFiltroA::RiduciColonneUnite() {
+    const int classe = combi::LeggiInt16(cmbClasse_->currentText().toStdString());
+    const int riduzione = combi::LeggiInt16(cmbRid_->currentText().toStdString());
+    if (combi::DistanzaRiduzione(classe, riduzione) < 1) return;
+    combi::ColonneSviluppate ridotte;
+    combi::ApplicaRiduzione(colonne_.Colonne(), classe, riduzione, ridotte);
+    colonne_ = std::move(ridotte);
+    labCondizionate_->setText(TestoContatore(double(colonne_.Quante())));
+}
+
+void CombiFiltroA::IniziaSviluppoEsterno(const QString& cartellaCorsa, bool riduciAllaFine) {
     motore_ = esterno;
+    cartellaCorsa_ = cartellaCorsa;
+    riduciAllaFine_ = riduciAllaFine;
     inizioEsterno_ = orologio_();
     colonne_.Svuota();
     condizioniSviluppo_.clear();
@@ -61,6 +81,7 @@ void CombiFiltroA::ControllaCompletamento() {
     if (file.isEmpty()) return;
     const bool accodati = EseguiProtetta(*dialoghi_, "CombiFiltro.txtMsgFromDll_Change", [&] {
         for (const QString& f : file) AccodaFileColonne(f);
+        if (riduciAllaFine_) RiduciColonneUnite();
     });
     // One worker's columns missing would leave a hole in the enumeration:
     // after the report nothing is kept.

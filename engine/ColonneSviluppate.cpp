@@ -79,6 +79,8 @@ ColonneSviluppate::ColonneSviluppate(uint64_t soglia, std::string cartella)
     : soglia_(soglia), cartella_(cartella.empty() ? CartellaTemp() : std::move(cartella)) {}
 
 ColonneSviluppate::~ColonneSviluppate() = default;
+ColonneSviluppate::ColonneSviluppate(ColonneSviluppate&&) noexcept = default;
+ColonneSviluppate& ColonneSviluppate::operator=(ColonneSviluppate&&) noexcept = default;
 
 void ColonneSviluppate::PassaSuFile() {
     auto file = std::make_unique<FileMappato>(cartella_);

@@ -24,6 +24,8 @@ public:
     ~ColonneSviluppate() override;
     ColonneSviluppate(const ColonneSviluppate&) = delete;
     ColonneSviluppate& operator=(const ColonneSviluppate&) = delete;
+    ColonneSviluppate(ColonneSviluppate&&) noexcept;
+    ColonneSviluppate& operator=(ColonneSviluppate&&) noexcept;
 
     // Adds columns at the end. Throws Errore 61 when the disk is full: the
     // columns added before are kept.

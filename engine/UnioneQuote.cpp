@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "ColonneInMemoria.h"
 #include "Errore.h"
 #include "VerificaColonna.h"
 
@@ -44,17 +45,28 @@ void ControllaQuote(const std::vector<RisultatoSviluppo>& quote) {
 
 }  // namespace
 
-void ApplicaRiduzione(std::vector<Colonna>& colonne, int classe, int riduzione) {
+void ApplicaRiduzione(std::span<const Colonna> colonne, int classe, int riduzione, DestinazioneColonne& destinazione) {
+    constexpr size_t kPasso = 1 << 16;  // handed on a step at a time: no copy of the whole set
     const int distanza = DistanzaRiduzione(classe, riduzione);
-    if (distanza < 1) return;
     Colonna ultimaTenuta{};  // the empty element 0 shares no number
-    size_t tenute = 0;
+    std::vector<Colonna> tenute;
     for (const Colonna& c : colonne) {
-        if (ContaComuni(classe, c, ultimaTenuta) >= distanza) continue;
+        if (distanza >= 1 && ContaComuni(classe, c, ultimaTenuta) >= distanza) continue;
         ultimaTenuta = c;
-        colonne[tenute++] = c;
+        tenute.push_back(c);
+        if (tenute.size() == kPasso) {
+            destinazione.Accoda(tenute);
+            tenute.clear();
+        }
     }
-    colonne.resize(tenute);
+    destinazione.Accoda(tenute);
+}
+
+void ApplicaRiduzione(std::vector<Colonna>& colonne, int classe, int riduzione) {
+    if (DistanzaRiduzione(classe, riduzione) < 1) return;
+    ColonneInMemoria ridotte;
+    ApplicaRiduzione(colonne, classe, riduzione, ridotte);
+    colonne = std::move(ridotte.colonne);
 }
 
 RisultatoSviluppo UnisciQuote(std::vector<RisultatoSviluppo> quote, int classe, int riduzione) {

@@ -7,6 +7,7 @@
 // before it kept. The shares are therefore developed without it, and the
 // join re-applies it over the passing columns in enumeration order.
 
+#include <span>
 #include <vector>
 
 #include "Colonna.h"
@@ -18,6 +19,9 @@ namespace combi {
 // the previously kept one (the first is compared with the empty column).
 // Nothing is dropped when `riduzione` (K) is 0.
 void ApplicaRiduzione(std::vector<Colonna>& colonne, int classe, int riduzione);
+
+// The same, from `colonne` to `destinazione`, for sets too large to copy.
+void ApplicaRiduzione(std::span<const Colonna> colonne, int classe, int riduzione, DestinazioneColonne& destinazione);
 
 // Joins shares 1..W (in share order), each developed with "Riduzione N-K" 0,
 // into what one development of the whole stretch with `riduzione` gives:

@@ -3,8 +3,10 @@
 
 #include "CombiFiltroA.h"
 
+#include <QDir>
 #include <QLineEdit>
 
+#include "Errore.h"
 #include "FileSistema.h"
 #include "LetturaNumero.h"
 #include "ProtocolloLavoratori.h"
@@ -37,12 +39,14 @@ SviluppoParallelo::~SviluppoParallelo() {
     }
 }
 
-QString SviluppoParallelo::FileColonneLavoratore(int i) {
-    return QString::fromStdString(combi::NomeFileNumerato(combi::CartellaTemp() + "SistCond.col", i));
+QString SviluppoParallelo::CartellaCorsa() const { return cartella_ ? cartella_->path() + "/" : QString(); }
+
+QString SviluppoParallelo::FileColonneLavoratore(int i) const {
+    return QString::fromStdString(combi::FileColonneLavoratore(CartellaCorsa().toStdString(), i));
 }
 
-QString SviluppoParallelo::FileContatoriLavoratore(int i) {
-    return QString::fromStdString(combi::NomeFileNumerato(combi::FileSistemaTemp(), i));
+QString SviluppoParallelo::FileContatoriLavoratore(int i) const {
+    return QString::fromStdString(combi::FileContatoriLavoratore(CartellaCorsa().toStdString(), i));
 }
 
 QProcess* SviluppoParallelo::Lavoratore(int i) const {
@@ -62,7 +66,7 @@ void SviluppoParallelo::Avvia() {
     }
     if (!PreparaFileSistema(lavoratori)) return;
 
-    controllo_.IniziaSviluppoEsterno();
+    controllo_.IniziaSviluppoEsterno(CartellaCorsa(), true);
     inCorso_ = true;
     processi_.clear();
     processi_.resize(lavoratori + 1);
@@ -70,15 +74,17 @@ void SviluppoParallelo::Avvia() {
     for (int i = 1; i <= lavoratori && inCorso_; ++i) AvviaLavoratore(i, lavoratori);
 }
 
-// The run's system file, and no stale worker file that a failed worker could
-// leave to be mistaken for its result.
-bool SviluppoParallelo::PreparaFileSistema(int lavoratori) {
+// The run's folder, new for every run (the last one's goes), and its system
+// file without "Riduzione N-K".
+bool SviluppoParallelo::PreparaFileSistema(int) {
     return EseguiProtetta(dialoghi_, "CombiFiltro.SviluppoParallelo", [&] {
-        for (int i = 1; i <= lavoratori; ++i) {
-            combi::KillFile(FileColonneLavoratore(i).toStdString());
-            combi::KillFile(FileContatoriLavoratore(i).toStdString());
-        }
-        combi::ScriviFileSistema(combi::FileSistemaTemp(), controllo_.SistemaCorrente());
+        cartella_ = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/CombiFiltroCorsa-XXXXXX");
+        if (!cartella_->isValid())
+            throw combi::Errore(combi::kErroreAccessoFile,
+                                "Impossibile creare la cartella dello sviluppo: " + cartella_->errorString().toStdString());
+        combi::FileSistema sistema = controllo_.SistemaCorrente();
+        sistema.intestazione.riduzione = 0;
+        combi::ScriviFileSistema(combi::FileSistemaDellaCorsa(CartellaCorsa().toStdString()), sistema);
     });
 }
 
@@ -94,7 +100,7 @@ void SviluppoParallelo::AvviaLavoratore(int i, int lavoratori) {
     });
     const QString quota = QString("%1/%2").arg(i).arg(lavoratori);
     // One engine thread per worker: the workers themselves share the cores.
-    p->start(programma_, {"sviluppa", QString::fromStdString(combi::FileSistemaTemp()), "--colonne",
+    p->start(programma_, {"sviluppa", QString::fromStdString(combi::FileSistemaDellaCorsa(CartellaCorsa().toStdString())), "--colonne",
                           FileColonneLavoratore(i), "--contatori", FileContatoriLavoratore(i), "--quota", quota,
                           "--thread", "1", "--rapporto"});
 }

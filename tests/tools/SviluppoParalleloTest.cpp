@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QFile>
 #include <QListWidget>
 #include <QTemporaryDir>
@@ -43,45 +44,85 @@ bool AttendiFine(const SviluppoParallelo& s) {
 
 }  // namespace
 
+// With "Riduzione N-K" too: the workers develop without it and the merge
+// applies it over the whole enumeration, as one development does.
 TEST(SviluppoParallelo, MergedWorkersEqualTheInternalDevelopment) {
     CartellaTempProvvisoria temp;
-    Banco b;
-    SistemaDiProva(b);
-    b.c.GestSviluppo();
-    std::vector<combi::Colonna> interne;
-    b.c.GetColonneSviluppo(interne);
-    const combi::TabellaCondizioni contatoriInterni = b.c.CondizioniUltimoSviluppo();
-    ASSERT_GT(interne.size(), 100u);
-    ASSERT_LT(interne.size(), 8569u);
-    ASSERT_GT(contatoriInterni.at(1).ContaRecuperabili, 0) << "the panel must recover some columns";
+    for (int riduzione : {0, 2}) {
+        Banco b;
+        SistemaDiProva(b);
+        b.c.CmbRid()->setCurrentIndex(riduzione);  // " ", "1", "2", ...
+        b.c.GestSviluppo();
+        std::vector<combi::Colonna> interne;
+        b.c.GetColonneSviluppo(interne);
+        const combi::TabellaCondizioni contatoriInterni = b.c.CondizioniUltimoSviluppo();
+        ASSERT_GT(interne.size(), 100u);
+        ASSERT_LT(interne.size(), 8569u);
+        ASSERT_GT(contatoriInterni.at(1).ContaRecuperabili, 0) << "the panel must recover some columns";
 
-    for (int lavoratori : {1, 3}) {
-        b.dialoghi.boxes.clear();
-        b.c.setNumeroThreadsSviluppo(static_cast<int16_t>(lavoratori));
-        SviluppoParallelo parallelo(b.c, b.dialoghi, CF_PROGRAMMA_CLI);
-        parallelo.Avvia();
-        EXPECT_TRUE(b.c.InSviluppo());
-        EXPECT_FALSE(b.c.Pulsante("SviluppaCond")->isEnabled());
-        ASSERT_TRUE(AttendiFine(parallelo));
+        for (int lavoratori : {1, 3}) {
+            b.dialoghi.boxes.clear();
+            b.c.setNumeroThreadsSviluppo(static_cast<int16_t>(lavoratori));
+            SviluppoParallelo parallelo(b.c, b.dialoghi, CF_PROGRAMMA_CLI);
+            parallelo.Avvia();
+            EXPECT_TRUE(b.c.InSviluppo());
+            EXPECT_FALSE(b.c.Pulsante("SviluppaCond")->isEnabled());
+            ASSERT_TRUE(AttendiFine(parallelo));
 
-        EXPECT_FALSE(b.c.InSviluppo());
-        EXPECT_EQ(b.c.MotoreSviluppo(), esterno);
-        std::vector<combi::Colonna> esterne;
-        b.c.GetColonneSviluppo(esterne);
-        EXPECT_TRUE(esterne == interne) << lavoratori << " workers";
-        EXPECT_EQ(Cifre(b.c.LabSviluppate()->text()), "8568");
-        ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << b.dialoghi.Testi().join("|").toStdString();
-        EXPECT_EQ(b.dialoghi.boxes[0].tipo, "informazione");
+            EXPECT_FALSE(b.c.InSviluppo());
+            EXPECT_EQ(b.c.MotoreSviluppo(), esterno);
+            std::vector<combi::Colonna> esterne;
+            b.c.GetColonneSviluppo(esterne);
+            EXPECT_TRUE(esterne == interne) << lavoratori << " workers, reduction " << riduzione;
+            EXPECT_EQ(Cifre(b.c.LabSviluppate()->text()), "8568");
+            EXPECT_EQ(Cifre(b.c.LabCondizionate()->text()), QString::number(interne.size() - 1));
+            ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << b.dialoghi.Testi().join("|").toStdString();
+            EXPECT_EQ(b.dialoghi.boxes[0].tipo, "informazione");
 
-        combi::TabellaCondizioni sommati;
-        b.c.RaccogliCondizioni(sommati);
-        ASSERT_EQ(sommati.size(), contatoriInterni.size());
-        for (size_t j = 0; j < sommati.size(); ++j) {
-            EXPECT_EQ(sommati[j].ContaFallite, contatoriInterni[j].ContaFallite) << j;
-            EXPECT_EQ(sommati[j].ContaSuperate, contatoriInterni[j].ContaSuperate) << j;
-            EXPECT_EQ(sommati[j].ContaRecuperabili, contatoriInterni[j].ContaRecuperabili) << j;
+            combi::TabellaCondizioni sommati;
+            b.c.RaccogliCondizioni(sommati);
+            ASSERT_EQ(sommati.size(), contatoriInterni.size());
+            for (size_t j = 0; j < sommati.size(); ++j) {
+                EXPECT_EQ(sommati[j].ContaFallite, contatoriInterni[j].ContaFallite) << j;
+                EXPECT_EQ(sommati[j].ContaSuperate, contatoriInterni[j].ContaSuperate) << j;
+                EXPECT_EQ(sommati[j].ContaRecuperabili, contatoriInterni[j].ContaRecuperabili) << j;
+            }
         }
     }
+}
+
+// Two windows developing at once, each in a folder of its own: neither reads
+// the other's files, and each gets its own system's result.
+TEST(SviluppoParallelo, TwoRunsAtOnceKeepToTheirOwnFolders) {
+    Banco a, b;
+    SistemaDiProva(a);
+    SistemaDiProva(b);
+    b.c.setClasse(4);  // another system: 3060 columns
+    std::vector<combi::Colonna> attese[2];
+    a.c.GestSviluppo();
+    a.c.GetColonneSviluppo(attese[0]);
+    b.c.GestSviluppo();
+    b.c.GetColonneSviluppo(attese[1]);
+    ASSERT_NE(attese[0].size(), attese[1].size());
+    a.c.setNumeroThreadsSviluppo(2);
+    b.c.setNumeroThreadsSviluppo(2);
+    SviluppoParallelo pa(a.c, a.dialoghi, CF_PROGRAMMA_CLI), pb(b.c, b.dialoghi, CF_PROGRAMMA_CLI);
+    pa.Avvia();
+    pb.Avvia();
+    EXPECT_NE(pa.CartellaCorsa(), pb.CartellaCorsa());
+    EXPECT_TRUE(QFile::exists(pa.CartellaCorsa() + "SistCond.sic"));
+    ASSERT_TRUE(AttendiFine(pa));
+    ASSERT_TRUE(AttendiFine(pb));
+    std::vector<combi::Colonna> esterne[2];
+    a.c.GetColonneSviluppo(esterne[0]);
+    b.c.GetColonneSviluppo(esterne[1]);
+    EXPECT_TRUE(esterne[0] == attese[0]);
+    EXPECT_TRUE(esterne[1] == attese[1]);
+    const QString primaCartella = pa.CartellaCorsa();
+    pa.Avvia();  // the next run gets a new folder; the last one goes
+    ASSERT_TRUE(AttendiFine(pa));
+    EXPECT_NE(pa.CartellaCorsa(), primaCartella);
+    EXPECT_FALSE(QFile::exists(primaCartella + "SistCond.sic"));
 }
 
 TEST(SviluppoParallelo, AFailingWorkerIsNamedAndNothingIsKept) {
