@@ -3,6 +3,7 @@
 // control's two events and keeps its settings.
 
 #include <QMainWindow>
+#include <QSettings>
 
 #include <memory>
 
@@ -24,7 +25,17 @@ protected:
     void closeEvent(QCloseEvent* evento) override;
 
 private:
+    void CostruisciMenu();
+    void AggiornaComandi();
+    void AggiornaTitolo();
+    void RiempiRecenti();
+    void ApriRecente(const QString& percorso);
     void ChiediProcessi();
+
+    QSettings impostazioni_;
+    QList<QAction*> comandiFile_, comandiSviluppo_;
+    QAction* interrompi_ = nullptr;
+    QMenu* recenti_ = nullptr;
 
     std::unique_ptr<ArchivioProprieta> archivio_;
     std::unique_ptr<ServizioDialoghi> dialoghi_;

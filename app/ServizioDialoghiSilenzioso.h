@@ -15,6 +15,10 @@ public:
         Scrivi(titolo, testo);
         return true;
     }
+    Salvataggio ChiediSalvataggio(const QString& titolo, const QString& testo) override {
+        Scrivi(titolo, testo);
+        return Salvataggio::NonSalvare;
+    }
     QString FileDaSalvare(const QString&, const QString&, const QString&, const QString&, const QString&) override {
         return {};
     }

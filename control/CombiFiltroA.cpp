@@ -209,13 +209,15 @@ private:
 void CombiFiltroA::RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti) {
     // Inside a development's event pump only "Stop" reacts: a reduction there
     // would replace the columns under the development, and any box would
-    // hold the development behind it.
-    if (inSviluppo_) return;
+    // hold the development behind it. Nor does a reduction start inside one.
+    if (Occupato()) return;
     if (!QFileInfo::exists(sFileCol)) {
         dialoghi_->Critico(QString(), "Il file delle colonne non esiste");
         return;
     }
     stopRiduzione_ = false;
+    inRiduzione_ = true;
+    AggiornaStatoOccupato();
     EseguiProtetta(*dialoghi_, "CombiFiltro.RiduciColonne", [&] {
         const std::vector<combi::Colonna> colonne = combi::LeggiColonneDaRidurre(sFileCol.toStdString());
         // Nothing to reduce: keeping the developed columns is more useful
@@ -229,6 +231,8 @@ void CombiFiltroA::RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiest
         r.colonne.insert(r.colonne.begin(), combi::Colonna{});  // element 0 stays empty
         ImpostaColonneSviluppo(std::move(r.colonne));
     });
+    inRiduzione_ = false;
+    AggiornaStatoOccupato();
 }
 
 // The open reduction window shows the run; without one (a host's call) the

@@ -111,6 +111,10 @@ public:
     void InsCondizione(const combi::Condizione& T, const QString& sParam);
     // A whole development from the panel's settings; returns when it ended.
     void GestSviluppo();
+    // Before a development: with a condition column left empty before others
+    // (which the development does not read) the user is asked whether to go
+    // on; true to go on.
+    bool ConfermaColonnaVuota();
     // Flags of the host, kept and never read; num outside 1..90 throws
     // combi::Errore 9.
     void SetNum(int16_t num, bool v);
@@ -189,12 +193,18 @@ public:
     QLineEdit* txtMsgFromDll(int i) const { return lavoratori_->txtMsgFromDll(i); }
 
     bool SistemaModificato() const { return modificato_; }
-    void SegnaModificato() { modificato_ = true; }
-    // The modified check of "New", "Open" and of closing the host's window:
-    // true when the system is unmodified or the user agrees to drop it.
+    void SegnaModificato() { ImpostaModificato(true); }
+    // The modified check of "New" and "Open": true when the system is
+    // unmodified or the user agrees to drop it.
     bool ConsentiSenzaSalvare();
+    // The check before the host's window closes: "Salvare le modifiche?"
+    // with "Salva" (true once saved), "Non salvare" (true) and "Annulla"
+    // (false); true at once when nothing is unsaved.
+    bool ConsentiChiusura();
     QString FileSistema() const { return fileSistema_; }
     bool InSviluppo() const { return inSviluppo_; }
+    // A development or a reduction is running.
+    bool Occupato() const { return inSviluppo_ || inRiduzione_; }
     // The per-condition counters of the last development.
     const combi::TabellaCondizioni& CondizioniUltimoSviluppo() const { return condizioniSviluppo_; }
     // The counters for the condition effect report: after a development in
@@ -251,6 +261,13 @@ public:
     void ImpostaOrologio(std::function<double()> orologio) { orologio_ = std::move(orologio); }
 
 signals:
+    // The system on screen became modified or saved; its file changed.
+    void ModificatoCambiato(bool modificato);
+    void FileSistemaCambiato(const QString& percorso);
+    // A run (development or reduction) started or ended.
+    void OccupatoCambiato(bool occupato);
+    // A save went well: what was saved where, for the host's status bar.
+    void Salvato(const QString& messaggio);
     // The "Condizioni" button itself was pressed.
     void CondizioniPressed();
     // "StampaSk" with columns kept: print them for the game sTipogioco.
@@ -267,8 +284,13 @@ private:
     void AggiornaIntegrale();
     void AggiornaGaranzia();
     void ImpostaStatoSviluppo(bool inCorso);
+    void AggiornaStatoOccupato();
+    void ApplicaGiocoInAttesa();
+    void GiocoScelto();
     void AggiornaComandiColonne();
     void SegnaModificatoDalPannello();
+    void ImpostaModificato(bool modificato);
+    void ImpostaFileSistema(const QString& percorso);
     void EseguiPulsante(const QString& chiave);
     static const QHash<QString, void (*)(CombiFiltroA&)>& GestoriPulsanti();
     static bool ChiaveEsterna(const QString& chiave);
@@ -336,6 +358,9 @@ private:
     std::array<bool, 91> flagNumeri_{};
     bool caricamento_ = true;  // properties being restored: nothing is persisted
     bool inSviluppo_ = false;
+    bool inRiduzione_ = false;
+    int giocoAttivo_ = 0;     // the game the class list belongs to
+    int giocoInAttesa_ = -1;  // a game chosen during a run, applied when it ends
     bool richiestaStop_ = false;
     bool stopRiduzione_ = false;
     VistaRiduzione vistaRiduzione_;

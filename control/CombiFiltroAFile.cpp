@@ -38,13 +38,14 @@ void CombiFiltroA::Salva(QString& fileName) {
         if (fileName.isEmpty()) {
             const QString scelto = DialogoSalva(*dialoghi_, dirSistemi_, "Salva sistema", kFiltroSistemi,
                                                 fileSistema_, ".sic");
-            fileSistema_ = scelto;
+            ImpostaFileSistema(scelto);
             fileName = scelto;
         }
         if (fileName.isEmpty()) return;
 
         combi::ScriviFileSistema(fileName.toStdString(), SistemaCorrente());
-        modificato_ = false;
+        ImpostaModificato(false);
+        emit Salvato("Sistema salvato in " + fileName);
     });
 }
 
@@ -75,7 +76,7 @@ bool CombiFiltroA::CaricaSistema(const QString& percorso) {
 }
 
 void CombiFiltroA::CaricaSistemaNonProtetta(const QString& percorso) {
-    fileSistema_ = percorso;
+    ImpostaFileSistema(percorso);
     const combi::FileSistema sistema = combi::LeggiFileSistema(percorso.toStdString());
     for (int n = 1; n <= combi::kMaxNumero; ++n) numeri_->ImpostaNumero(n, sistema.intestazione.numeri[n] != 0);
     SelezionaVoceCombo(QString::number(sistema.intestazione.classe), cmbClasse_);
@@ -84,7 +85,7 @@ void CombiFiltroA::CaricaSistemaNonProtetta(const QString& percorso) {
     RiempiGriglia(*griglia_, *lbQuadroRec_, combi::TestiDaSistema(sistema.condizioni, sistema.quadri));
     SetColonnaGrid(1);
     VoceMenu(chiavi::kSalva)->setEnabled(true);
-    modificato_ = false;
+    ImpostaModificato(false);
 }
 
 void CombiFiltroA::SalvaFileColonne() {
@@ -97,5 +98,6 @@ void CombiFiltroA::SalvaFileColonne() {
         combi::ScritturaColonne file(scelto.toStdString());
         file.Accoda(colonne_.Colonne());
         file.Concludi();
+        emit Salvato(TestoContatore(double(colonne_.Quante())) + " colonne salvate in " + scelto);
     });
 }

@@ -95,7 +95,7 @@ void CombiFiltroA::Gestisci(int tipo, int16_t& colonna, const QString& sParam,
     griglia_->ImpostaTesto(4, colonna, testi.recupero);
     griglia_->ImpostaTesto(5, colonna, testi.quadro);
     SetColonnaGrid(colonna);
-    modificato_ = true;
+    ImpostaModificato(true);
 }
 
 void CombiFiltroA::ModificaCondizione() {
@@ -123,7 +123,7 @@ void CombiFiltroA::EliminaCondizione() {
     griglia_->EliminaColonna(colonna);
     // The system navigator, when it exists, rebuilds its tree from the grid.
     if (const auto aggiorna = Gestore(chiavi::kAggiornaNavigatore)) aggiorna();
-    modificato_ = true;
+    ImpostaModificato(true);
 }
 
 void CombiFiltroA::CambiaLarghezzaColonne(int passo) { griglia_->CambiaLarghezzaColonne(passo); }

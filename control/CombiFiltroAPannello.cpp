@@ -73,7 +73,7 @@ void CombiFiltroA::CostruisciPannello() {
     connect(numeri_, &GrigliaNumeri::SelezioneCambiata, this, [this] { NumeriCambiati(); });
     connect(numeri_, &GrigliaNumeri::Chiusa, this, [this] {
         Pulsante(chiavi::kSelNumeri)->setChecked(false);
-        modificato_ = true;
+        ImpostaModificato(true);
     });
 
     auto* contenitoreLavoratori = new QWidget(this);
@@ -134,7 +134,7 @@ QWidget* CombiFiltroA::CostruisciBarra() {
     riga->addWidget(new QLabel("Riduzione N-K", pannello));
     riga->addWidget(cmbRid_);
 
-    connect(cmbTipoGioco_, &QComboBox::currentIndexChanged, this, [this] { RiempiClasseERiduzione(); });
+    connect(cmbTipoGioco_, &QComboBox::currentIndexChanged, this, [this] { GiocoScelto(); });
     connect(cmbClasse_, &QComboBox::currentIndexChanged, this, [this] { ClasseCambiata(); });
     connect(cmbRid_, &QComboBox::currentIndexChanged, this, [this] {
         SegnaModificatoDalPannello();  // the user picks only real entries: the value changed
@@ -229,11 +229,42 @@ QAction* CombiFiltroA::VoceMenu(const QString& chiave) const { return vociMenu_.
 
 void CombiFiltroA::ImpostaStatoSviluppo(bool inCorso) {
     inSviluppo_ = inCorso;
-    for (QToolButton* pulsante : std::as_const(pulsanti_)) pulsante->setEnabled(!inCorso);
-    Pulsante(chiavi::kStop)->setEnabled(inCorso);
-    cmbClasse_->setEnabled(!inCorso);
-    cmbRid_->setEnabled(!inCorso);
+    AggiornaStatoOccupato();
+}
+
+// While a run of any kind goes on (a development, inside or by workers, or a
+// reduction) nothing that would change what is running reacts: only "Stop"
+// of a development. The host greys its own commands on OccupatoCambiato.
+void CombiFiltroA::AggiornaStatoOccupato() {
+    const bool occupato = Occupato();
+    for (QToolButton* pulsante : std::as_const(pulsanti_)) pulsante->setEnabled(!occupato);
+    Pulsante(chiavi::kStop)->setEnabled(inSviluppo_);
+    cmbClasse_->setEnabled(!occupato);
+    cmbRid_->setEnabled(!occupato);
     AggiornaComandiColonne();
+    emit OccupatoCambiato(occupato);
+    if (!occupato) ApplicaGiocoInAttesa();
+}
+
+// The game combo stays enabled during a run, but another game would refill
+// the class list under the running system: the panel keeps showing the game
+// that runs, and the choice is applied when the run ends.
+void CombiFiltroA::GiocoScelto() {
+    if (!Occupato()) {
+        giocoAttivo_ = cmbTipoGioco_->currentIndex();
+        RiempiClasseERiduzione();
+        return;
+    }
+    giocoInAttesa_ = cmbTipoGioco_->currentIndex();
+    const QSignalBlocker blocco(cmbTipoGioco_);
+    cmbTipoGioco_->setCurrentIndex(giocoAttivo_);
+}
+
+void CombiFiltroA::ApplicaGiocoInAttesa() {
+    if (giocoInAttesa_ < 0) return;
+    const int gioco = giocoInAttesa_;
+    giocoInAttesa_ = -1;
+    cmbTipoGioco_->setCurrentIndex(gioco);
 }
 
 void CombiFiltroA::AggiornaComandiColonne() {
@@ -246,7 +277,31 @@ void CombiFiltroA::AggiornaComandiColonne() {
 // changing them is a change of the system; restoring the persisted
 // properties at start-up is not.
 void CombiFiltroA::SegnaModificatoDalPannello() {
-    if (!caricamento_) modificato_ = true;
+    if (!caricamento_) ImpostaModificato(true);
+}
+
+void CombiFiltroA::ImpostaModificato(bool modificato) {
+    const bool cambia = modificato != modificato_;
+    modificato_ = modificato;
+    if (cambia) emit ModificatoCambiato(modificato);
+}
+
+void CombiFiltroA::ImpostaFileSistema(const QString& percorso) {
+    if (percorso == fileSistema_) return;
+    fileSistema_ = percorso;
+    emit FileSistemaCambiato(percorso);
+}
+
+bool CombiFiltroA::ConsentiChiusura() {
+    if (!modificato_) return true;
+    switch (dialoghi_->ChiediSalvataggio(QString(), "Salvare le modifiche?")) {
+    case ServizioDialoghi::Salvataggio::Salva:
+        Salva(fileSistema_);
+        return !modificato_;  // a cancelled or failed save keeps the window open
+    case ServizioDialoghi::Salvataggio::NonSalvare: return true;
+    case ServizioDialoghi::Salvataggio::Annulla: return false;
+    }
+    return false;
 }
 
 bool CombiFiltroA::ConsentiSenzaSalvare() {
@@ -320,7 +375,10 @@ void CombiFiltroA::NuovaCondizione(int tipo) {
 }
 
 void CombiFiltroA::StampaSchedine() {
-    if (QuantitaColonne() == 0) return;
+    if (QuantitaColonne() == 0) {
+        dialoghi_->Informazione(QString(), "Nessuna colonna da stampare: sviluppare prima il sistema");
+        return;
+    }
     QString tipoGioco = cmbTipoGioco_->currentText();
     emit StampaSk(tipoGioco);
 }
@@ -358,11 +416,11 @@ void CombiFiltroA::Nuovo() {
     labSviluppate_->clear();
     labCondizionate_->clear();
     cmbRid_->setCurrentIndex(0);
-    fileSistema_.clear();
+    ImpostaFileSistema(QString());
     colonne_.Svuota();
     AggiornaComandiColonne();
     VoceMenu(chiavi::kSalva)->setEnabled(false);  // no file to save to
-    modificato_ = eraModificato;
+    ImpostaModificato(eraModificato);
 }
 
 void CombiFiltroA::RicostruisciQuadri(const std::array<std::array<QString, 2>, 21>& minMax) {
@@ -378,5 +436,5 @@ void CombiFiltroA::RicostruisciQuadri(const std::array<std::array<QString, 2>, 2
             lbQuadroRec_->addItem("-1,-1,-0");
         }
     }
-    modificato_ = true;
+    ImpostaModificato(true);
 }

@@ -89,6 +89,7 @@ void CombiFiltroA::GestSviluppo() {
             dialoghi_->Esclamazione(QString(), QString::fromUtf8(combi::kImpostarePronostico));
             return;
         }
+        if (!ConfermaColonnaVuota()) return;
         motore_ = interno;
         // A monotonic-enough wall clock in seconds: unlike the seconds since
         // midnight it does not go negative across midnight.
@@ -121,6 +122,11 @@ combi::EsitoSviluppo CombiFiltroA::SviluppoInterno() {
         colonne_.Svuota();  // a failed run keeps no column
         throw;
     }
+}
+
+bool CombiFiltroA::ConfermaColonnaVuota() {
+    if (griglia_->ColonnaVuotaInterna() == 0) return true;
+    return dialoghi_->Domanda(QString(), "Le condizioni dopo una colonna vuota non vengono considerate. Continuare ?");
 }
 
 void CombiFiltroA::ChiediStop() {

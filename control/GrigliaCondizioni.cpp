@@ -29,6 +29,9 @@ GrigliaCondizioni::GrigliaCondizioni(QWidget* genitore) : QTableWidget(genitore)
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setMinimumSectionSize(1);  // the width limits are ours
     connect(this, &QTableWidget::currentCellChanged, this, [this] { Evidenzia(); });
+    connect(this, &QTableWidget::itemChanged, this, [this](QTableWidgetItem* cella) {
+        if (cella->row() == 1) SegnaColonnaVuota();
+    });
     LayOut();
 }
 
@@ -57,6 +60,7 @@ void GrigliaCondizioni::SvuotaColonna(int colonna) {
 void GrigliaCondizioni::LayOut() {
     occupata_ = true;
     colonnaEvidenziata_ = 0;
+    colonnaVuotaSegnata_ = 0;
     setUpdatesEnabled(false);
     // The grid was drawn in "MS Sans Serif" at its 8 points: the platform's
     // sans-serif family at the same size, so rows and widths keep their
@@ -172,6 +176,32 @@ void GrigliaCondizioni::ColoraColonna(int colonna, const QColor& colore) {
             cella->setBackground(colore.isValid() ? QBrush(colore) : QBrush());
         }
     }
+}
+
+int GrigliaCondizioni::ColonnaVuotaInterna() const {
+    const int ultima = UltimaColonnaUsata();
+    for (int c = 1; c < ultima; ++c)
+        if (Testo(1, c).trimmed().isEmpty()) return c;
+    return 0;
+}
+
+void GrigliaCondizioni::SegnaColonnaVuota() {
+    if (occupata_) return;
+    const int vuota = ColonnaVuotaInterna();
+    if (vuota == colonnaVuotaSegnata_) return;
+    occupata_ = true;  // the colours below change cells too
+    for (const int c : {colonnaVuotaSegnata_, vuota}) {
+        const bool segna = c == vuota;
+        for (int riga = 0; riga <= 1 && c > 0; ++riga) {
+            QTableWidgetItem* cella = Cella(riga, c);
+            if (!cella) continue;
+            cella->setBackground(segna ? QBrush(ColoreColonnaVuota()) : QBrush());
+            cella->setToolTip(segna ? "Colonna vuota: le condizioni alla sua destra non vengono considerate"
+                                    : QString());
+        }
+    }
+    colonnaVuotaSegnata_ = vuota;
+    occupata_ = false;
 }
 
 void GrigliaCondizioni::Evidenzia() {

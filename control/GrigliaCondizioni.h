@@ -55,6 +55,13 @@ public:
 
     // Background of rows 2..5 of a column.
     void ColoraColonna(int colonna, const QColor& colore);
+
+    // The first column without a condition that has conditions after it:
+    // the development reads no further, so the grid marks it (its number and
+    // name cells in red, with a tooltip); 0 when there is none. The mark is
+    // kept up to date as the texts change.
+    int ColonnaVuotaInterna() const;
+    static QColor ColoreColonnaVuota() { return QColor(255, 190, 190); }
     // The selected condition is painted in the background colour of
     // `etichetta` (the panel's hidden LabColoreColSel), read at every change;
     // without one, a pale blue.
@@ -79,10 +86,12 @@ public:
 
 private:
     void Evidenzia();
+    void SegnaColonnaVuota();
     QTableWidgetItem* Cella(int riga, int colonna) const;
     void AdattaAltezza();
 
     QPointer<const QWidget> fonteColore_;
     bool occupata_ = false;   // rebuilding or recolouring: cell changes are not followed
     int colonnaEvidenziata_ = 0;
+    int colonnaVuotaSegnata_ = 0;
 };

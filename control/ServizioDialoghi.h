@@ -15,8 +15,14 @@ public:
     virtual void Esclamazione(const QString& titolo, const QString& testo) = 0;
     virtual void Critico(const QString& titolo, const QString& testo) = 0;
 
-    // Question icon, Yes and No buttons: true for Yes.
+    // Question icon, Yes and No buttons: true for Yes. No is the default
+    // button: the answer that changes nothing.
     virtual bool Domanda(const QString& titolo, const QString& testo) = 0;
+
+    // Before something unsaved is dropped: "Salva", "Non salvare" or
+    // "Annulla" (the default and the Escape key's: nothing is lost).
+    enum class Salvataggio { Salva, NonSalvare, Annulla };
+    virtual Salvataggio ChiediSalvataggio(const QString& titolo, const QString& testo) = 0;
 
     // File dialogs. `filtro` keeps the "descrizione|modello" pairs that the
     // system has always used ("Sistemi condizionati (*.sic)|*.sic");

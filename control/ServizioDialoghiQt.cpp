@@ -20,6 +20,13 @@ QString Percorso(const QString& cartella, const QString& nome) {
     return QDir(cartella).filePath(nome);
 }
 
+// A box is at least as wide as its title, so that a long one
+// ("CombiFiltro.GetNumeroColonneInFile") is read whole in the title bar.
+void LargoQuantoIlTitolo(QMessageBox& box) {
+    const int larghezza = box.fontMetrics().horizontalAdvance(box.windowTitle()) + 60;
+    box.setStyleSheet(QString("QLabel#qt_msgbox_label { min-width: %1px; }").arg(larghezza));
+}
+
 }  // namespace
 
 QStringList FiltriQt(const QString& filtro) {
@@ -34,27 +41,49 @@ QStringList FiltriQt(const QString& filtro) {
     return filtri;
 }
 
+void ServizioDialoghiQt::Mostra(int icona, const QString& titolo, const QString& testo) {
+    QMessageBox box(QMessageBox::Icon(icona), TitoloBox(titolo), testo, QMessageBox::Ok, proprietario_);
+    LargoQuantoIlTitolo(box);
+    box.exec();
+}
+
 void ServizioDialoghiQt::Informazione(const QString& titolo, const QString& testo) {
-    QMessageBox::information(proprietario_, TitoloBox(titolo), testo);
+    Mostra(QMessageBox::Information, titolo, testo);
 }
 
 void ServizioDialoghiQt::Esclamazione(const QString& titolo, const QString& testo) {
-    QMessageBox::warning(proprietario_, TitoloBox(titolo), testo);
+    Mostra(QMessageBox::Warning, titolo, testo);
 }
 
 void ServizioDialoghiQt::Critico(const QString& titolo, const QString& testo) {
-    QMessageBox::critical(proprietario_, TitoloBox(titolo), testo);
+    Mostra(QMessageBox::Critical, titolo, testo);
 }
 
 bool ServizioDialoghiQt::Domanda(const QString& titolo, const QString& testo) {
     // The buttons are named here, so they read Italian even where Qt's own
     // translations are not installed.
     QMessageBox domanda(QMessageBox::Question, TitoloBox(titolo), testo, QMessageBox::NoButton, proprietario_);
+    LargoQuantoIlTitolo(domanda);
     QPushButton* si = domanda.addButton("Sì", QMessageBox::YesRole);
-    domanda.addButton("No", QMessageBox::NoRole);
-    domanda.setDefaultButton(si);
+    QPushButton* no = domanda.addButton("No", QMessageBox::NoRole);
+    domanda.setDefaultButton(no);
+    domanda.setEscapeButton(no);
     domanda.exec();
     return domanda.clickedButton() == si;
+}
+
+ServizioDialoghi::Salvataggio ServizioDialoghiQt::ChiediSalvataggio(const QString& titolo, const QString& testo) {
+    QMessageBox domanda(QMessageBox::Question, TitoloBox(titolo), testo, QMessageBox::NoButton, proprietario_);
+    LargoQuantoIlTitolo(domanda);
+    QPushButton* salva = domanda.addButton("Salva", QMessageBox::AcceptRole);
+    QPushButton* nonSalvare = domanda.addButton("Non salvare", QMessageBox::DestructiveRole);
+    QPushButton* annulla = domanda.addButton("Annulla", QMessageBox::RejectRole);
+    domanda.setDefaultButton(annulla);
+    domanda.setEscapeButton(annulla);
+    domanda.exec();
+    if (domanda.clickedButton() == salva) return Salvataggio::Salva;
+    if (domanda.clickedButton() == nonSalvare) return Salvataggio::NonSalvare;
+    return Salvataggio::Annulla;
 }
 
 QString ServizioDialoghiQt::FileDaSalvare(const QString& cartella, const QString& titolo,

@@ -15,12 +15,15 @@ public:
     void Esclamazione(const QString& titolo, const QString& testo) override;
     void Critico(const QString& titolo, const QString& testo) override;
     bool Domanda(const QString& titolo, const QString& testo) override;
+    Salvataggio ChiediSalvataggio(const QString& titolo, const QString& testo) override;
     QString FileDaSalvare(const QString& cartella, const QString& titolo, const QString& filtro,
                           const QString& nome, const QString& estensione) override;
     QString FileDaAprire(const QString& cartella, const QString& titolo, const QString& filtro,
                          const QString& nome, const QString& estensione) override;
 
 private:
+    void Mostra(int icona, const QString& titolo, const QString& testo);
+
     QPointer<QWidget> proprietario_;
 };
 

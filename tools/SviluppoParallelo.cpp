@@ -59,6 +59,7 @@ void SviluppoParallelo::Avvia() {
         dialoghi_.Esclamazione(QString(), QString::fromUtf8(combi::kImpostarePronostico));
         return;
     }
+    if (!controllo_.ConfermaColonnaVuota()) return;
     const int lavoratori = LavoratoriDisponibili(controllo_);
     if (lavoratori < 1) {
         dialoghi_.Esclamazione(QString(), "Impostare il numero dei processi di sviluppo");

@@ -24,6 +24,7 @@ class FakeDialoghi : public ServizioDialoghi {
 public:
     std::vector<BoxMostrato> boxes;
     std::deque<bool> risposte;          // Yes/No answers, in order; No when empty
+    std::deque<Salvataggio> salvataggi; // answers to "save the changes?"; Annulla when empty
     std::deque<QString> fileScelti;     // answers of the file dialogs; cancel when empty
     std::vector<DialogoFile> dialoghiFile;
     std::function<void()> allaDomanda;  // runs when a question is asked
@@ -37,6 +38,13 @@ public:
         if (risposte.empty()) return false;
         const bool r = risposte.front();
         risposte.pop_front();
+        return r;
+    }
+    Salvataggio ChiediSalvataggio(const QString& t, const QString& s) override {
+        boxes.push_back({"salvataggio", t, s});
+        if (salvataggi.empty()) return Salvataggio::Annulla;
+        const Salvataggio r = salvataggi.front();
+        salvataggi.pop_front();
         return r;
     }
     QString FileDaSalvare(const QString& c, const QString& t, const QString& f, const QString& n,

@@ -1,6 +1,6 @@
 #pragma once
-// Shared by the editor tests: a message-box service that records instead of
-// showing, and short ways to act on an editor's widgets by name.
+// Shared by the editor tests: the recorded boxes as texts, and short ways to
+// act on an editor's widgets by name.
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -14,22 +14,16 @@
 
 #include "FabbricaEditoriQt.h"
 #include "F_PuntiSuBase.h"
-#include "ServizioDialoghi.h"
+#include "../control/FakeDialoghi.h"
 
-class DialoghiRegistrati : public ServizioDialoghi {
-public:
-    void Informazione(const QString&, const QString& t) override { messaggi << t; }
-    void Esclamazione(const QString&, const QString& t) override { messaggi << t; }
-    void Critico(const QString& titolo, const QString& t) override { messaggi << titolo + ": " + t; }
-    bool Domanda(const QString&, const QString&) override { return true; }
-    QString FileDaSalvare(const QString&, const QString&, const QString&, const QString&,
-                          const QString&) override { return {}; }
-    QString FileDaAprire(const QString&, const QString&, const QString&, const QString&,
-                         const QString&) override { return {}; }
-    QStringList messaggi;
-};
+// The editors' boxes as one list of texts; a critical box is preceded by its title.
+inline QStringList Messaggi(const FakeDialoghi& d) {
+    QStringList t;
+    for (const BoxMostrato& b : d.boxes) t << (b.tipo == "critico" ? b.titolo + ": " + b.testo : b.testo);
+    return t;
+}
 
-inline std::unique_ptr<F_PuntiSuBase> Editore(int tipo, DialoghiRegistrati& dialoghi, int classe = 5,
+inline std::unique_ptr<F_PuntiSuBase> Editore(int tipo, FakeDialoghi& dialoghi, int classe = 5,
                                               std::vector<int> numeri = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}) {
     ContestoEditore contesto{classe, std::move(numeri), 0, &dialoghi};
     return CreaEditore(tipo, contesto);

@@ -53,22 +53,22 @@ TEST(VerificaCoerenza, MostraIlMessaggioDellUltimoControlloFallito) {
     };
     for (const Caso& caso : casi) {
         SCOPED_TRACE(caso.nome);
-        DialoghiRegistrati dialoghi;
+        FakeDialoghi dialoghi;
         auto e = Editore(caso.tipo, dialoghi);
         caso.azione(*e);
         Clic(*e, "XPButton1_0");
         if (caso.messaggio == nullptr) {
-            EXPECT_TRUE(dialoghi.messaggi.isEmpty());
+            EXPECT_TRUE(Messaggi(dialoghi).isEmpty());
             EXPECT_EQ(e->Tag(), "ooo");
         } else {
-            EXPECT_EQ(dialoghi.messaggi, QStringList{caso.messaggio});
+            EXPECT_EQ(Messaggi(dialoghi), QStringList{caso.messaggio});
             EXPECT_TRUE(e->Tag().isEmpty());
         }
     }
 }
 
 TEST(RegolaClic, UnValoreNonEMaiAccettatoERecuperabile) {
-    DialoghiRegistrati dialoghi;
+    FakeDialoghi dialoghi;
     auto e = Editore(combi::kInterruzioni, dialoghi);
     Clic(*e, "ChkPunti_2");  // no panel: recovery stays off
     EXPECT_FALSE(Chk(*e, "R", 2)->isEnabled());
@@ -120,7 +120,7 @@ TEST(ValoriOfferti, DipendonoDaClasseDivisoreESequenza) {
     };
     for (const Caso& caso : casi) {
         SCOPED_TRACE(caso.nome);
-        DialoghiRegistrati dialoghi;
+        FakeDialoghi dialoghi;
         auto e = Editore(caso.tipo, dialoghi, caso.classe);
         caso.azione(*e);
         EXPECT_EQ(Chk(*e, "P", caso.primo - 1), nullptr);
@@ -132,7 +132,7 @@ TEST(ValoriOfferti, DipendonoDaClasseDivisoreESequenza) {
         }
     }
     // A new divisor clears the values above 0 and hides the extra boxes.
-    DialoghiRegistrati dialoghi;
+    FakeDialoghi dialoghi;
     auto resto = Editore(combi::kResto, dialoghi);
     Scegli(*resto, "Combo1", "4");
     Clic(*resto, "ChkPunti_0"), Clic(*resto, "ChkPunti_1"), Clic(*resto, "ChkPunti_3");
@@ -165,19 +165,19 @@ TEST(CalcolaLimiti, AmpiezzaEBaricentroDaiNumeriDelSistema) {
     };
     for (const Caso& caso : casi) {
         SCOPED_TRACE(std::to_string(caso.tipo) + " classe " + std::to_string(caso.classe));
-        DialoghiRegistrati dialoghi;
+        FakeDialoghi dialoghi;
         auto e = Editore(caso.tipo, dialoghi, caso.classe, caso.numeri);
         EXPECT_EQ(W<QLabel>(*e, "LabMin")->text(), caso.minimo);
         EXPECT_EQ(W<QLabel>(*e, "LabMax")->text(), caso.massimo);
         // Critical box with the application's title (an empty title here).
         const std::string atteso =
             caso.classe < 1 ? ": Impostare il numero di elementi per ciascuna combinazione" : "";
-        EXPECT_EQ(dialoghi.messaggi.join("\n").toStdString(), atteso);
+        EXPECT_EQ(Messaggi(dialoghi).join("\n").toStdString(), atteso);
     }
 }
 
 TEST(FiltroTasti, AmpiezzaAccettaSoloCifreEVirgolaEInvioPassaOltre) {
-    DialoghiRegistrati dialoghi;
+    FakeDialoghi dialoghi;
     auto e = Editore(combi::kAmpiezza, dialoghi);
     e->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(e.get()));
@@ -235,7 +235,7 @@ TEST(RiempiDaParametri, TestiBuoniRiempionoETestiMalformatiSonoErrori) {
     };
     for (const Caso& caso : casi) {
         SCOPED_TRACE(std::string(combi::NomeTipoCondizione(caso.tipo)) + " " + caso.testo);
-        DialoghiRegistrati dialoghi;
+        FakeDialoghi dialoghi;
         auto e = Editore(caso.tipo, dialoghi);
         if (caso.errore != 0) {
             try {
@@ -260,7 +260,7 @@ TEST(RiempiDaParametri, TestiBuoniRiempionoETestiMalformatiSonoErrori) {
         EXPECT_EQ(t.quadro, caso.quadro);
     }
     // An empty text leaves the editor as loaded; Punti su colonna is never filled.
-    DialoghiRegistrati dialoghi;
+    FakeDialoghi dialoghi;
     for (int tipo : {combi::kPonte, combi::kPuntiColonna}) {
         auto e = Editore(tipo, dialoghi);
         e->RiempiDaParametri(tipo == combi::kPonte ? "" : "01-02");

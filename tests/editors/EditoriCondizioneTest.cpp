@@ -104,13 +104,13 @@ TEST(EditoriCondizione, InserisceModificaEAnnullaOgniTipo) {
     ASSERT_EQ(Casi().size(), 16u);
     for (const Caso& caso : Casi()) {
         SCOPED_TRACE(combi::NomeTipoCondizione(caso.tipo));
-        DialoghiRegistrati dialoghi;
+        FakeDialoghi dialoghi;
         auto nuovo = Editore(caso.tipo, dialoghi, 5, {1, 5, 12, 33, 45, 60});
         EXPECT_EQ(nuovo->windowTitle(), VoceDelTipo(caso.tipo)->titolo);
         caso.azione(*nuovo);
         Clic(*nuovo, "XPButton1_0");
         EXPECT_EQ(nuovo->Tag(), "ooo");
-        EXPECT_TRUE(dialoghi.messaggi.isEmpty()) << dialoghi.messaggi.join("|").toStdString();
+        EXPECT_TRUE(Messaggi(dialoghi).isEmpty()) << Messaggi(dialoghi).join("|").toStdString();
         const combi::TestiCondizione scritti = Testi(nuovo->GetParametri(), caso.tipo);
         EXPECT_EQ(scritti[combi::kRigaParametri], Parametri(caso));
         EXPECT_EQ(scritti[combi::kRigaPunti], caso.punti);
@@ -131,7 +131,7 @@ TEST(EditoriCondizione, InserisceModificaEAnnullaOgniTipo) {
 }
 
 TEST(EditoriCondizione, ITestiScrittiSiDecodificanoNelRecordAtteso) {
-    DialoghiRegistrati dialoghi;
+    FakeDialoghi dialoghi;
     combi::TestiGriglia griglia;
     for (int tipo : {combi::kPariDispari, combi::kAmpiezza, combi::kResto, combi::kSequenze, combi::kPosizioni}) {
         const Caso& caso = Casi()[tipo - combi::kPuntiColonna];
@@ -160,7 +160,7 @@ TEST(EditoriCondizione, ITestiScrittiSiDecodificanoNelRecordAtteso) {
 }
 
 TEST(EditoriCondizione, PuntiSuColonnaOffreSoloINumeriDelSistemaEVaACapoOgniQuattro) {
-    DialoghiRegistrati dialoghi;
+    FakeDialoghi dialoghi;
     auto e = Editore(combi::kPuntiColonna, dialoghi, 5, {2, 4, 6, 8});
     auto* g = static_cast<F_PuntisuColonna&>(*e).Numeri();
     EXPECT_TRUE(g->Disponibile(4));
@@ -197,7 +197,7 @@ TEST(EditoriCondizione, PuntiSuColonnaOffreSoloINumeriDelSistemaEVaACapoOgniQuat
 
 // Numbers of an edited condition no longer in the system: ticked, can be unticked.
 TEST(EditoriCondizione, PuntiSuColonnaLasciaTogliereINumeriNonPiuDelSistema) {
-    DialoghiRegistrati dialoghi;
+    FakeDialoghi dialoghi;
     auto e = Editore(combi::kPuntiColonna, dialoghi, 5, {2, 4, 6, 8});
     e->LeggiPunti(combi::TestiCondizione{"", "Punti Col.", "02-15-40", "1", "", " "});
     GrigliaNumeri principale;  // the main grid, as the control hands it over
@@ -214,7 +214,7 @@ TEST(EditoriCondizione, PuntiSuColonnaLasciaTogliereINumeriNonPiuDelSistema) {
 }
 
 TEST(EditoriCondizione, ValoriDiUnaClassePiuAltaIgnoratiConNota) {
-    DialoghiRegistrati dialoghi;
+    FakeDialoghi dialoghi;
     auto e = Editore(combi::kConsecutivi, dialoghi, 3);
     e->LeggiPunti(combi::TestiCondizione{"", "Consecutivi", "", "1-5-7", "2-9", "4"});
     EXPECT_FALSE(e->Nota()->isHidden());

@@ -90,7 +90,7 @@ TEST(Statistica, DistribuzioneDellaMisuraSulleColonneIntegrali) {
 }
 
 TEST(Statistica, IlPulsanteApreLAnteprimaSenzaToccareLEditore) {
-    DialoghiRegistrati dialoghi;
+    FakeDialoghi dialoghi;
     ContestoEditore contesto{5, {}, 1, &dialoghi};
     for (int n = 1; n <= 30; ++n) contesto.numeriSelezionati.push_back(n);
     auto e = CreaEditore(combi::kPosizioni, contesto);
@@ -108,12 +108,12 @@ TEST(Statistica, IlPulsanteApreLAnteprimaSenzaToccareLEditore) {
     EXPECT_EQ(tabella->item(0, 0)->text(), "2");
     EXPECT_EQ(tabella->item(0, 1)->text(), "3276");  // 1-2-x-x-x: C(28,3)
     EXPECT_TRUE(e->Tag().isEmpty());
-    EXPECT_TRUE(dialoghi.messaggi.isEmpty());
+    EXPECT_TRUE(Messaggi(dialoghi).isEmpty());
     // Too few numbers: reported, no preview, the editor stays.
     auto poco = Editore(combi::kPonte, dialoghi, 5, {1, 2, 3});
     Clic(*poco, "XPButton1_2");
     EXPECT_EQ(poco->findChild<F_Statistica*>(), nullptr);
-    EXPECT_EQ(dialoghi.messaggi, QStringList{"Impostare il pronostico"});
+    EXPECT_EQ(Messaggi(dialoghi), QStringList{"Impostare il pronostico"});
 }
 
 // Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-editori.sh)
@@ -122,7 +122,7 @@ TEST(Screenshot, SalvaImmaginiDegliEditori) {
     const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
     if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
     QDir().mkpath(cartella);
-    DialoghiRegistrati dialoghi;
+    FakeDialoghi dialoghi;
     ContestoEditore contesto{6, {3, 8, 15, 21, 40, 77, 81, 88}, 0, &dialoghi};
     auto salva = [&](QWidget& w, const QString& nome) {
         w.show();
