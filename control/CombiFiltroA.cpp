@@ -66,9 +66,15 @@ CombiFiltroA::CombiFiltroA(ArchivioProprieta* archivio, ServizioDialoghi* dialog
     SelezionaVoceCombo(QString::number(classeSalvata), cmbClasse_);
     cmbRid_->setCurrentIndex(0);
     caricamento_ = false;
+    RichiediConteggio();
 }
 
-CombiFiltroA::~CombiFiltroA() { CancellaControllo(this); }
+CombiFiltroA::~CombiFiltroA() {
+    CancellaControllo(this);
+    // The children go one by one: none may call back into a half-gone panel.
+    lbQuadroRec_->model()->disconnect(this);
+    griglia_->disconnect(this);
+}
 
 double CombiFiltroA::ColonneIntegrali() const {
     return combi::CalcolaIntegrali(ContaNumeriSel(), combi::LeggiInt16(cmbClasse_->currentText().toStdString()));

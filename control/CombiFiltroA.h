@@ -19,6 +19,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "CampiLavoratori.h"
@@ -187,6 +188,8 @@ public:
     QLineEdit* LabSviluppate() const { return labSviluppate_; }
     QLineEdit* LabCondizionate() const { return labCondizionate_; }
     QLineEdit* LabGaranzia() const { return labGaranzia_; }
+    // "Colonne previste: N", the live count of the system on screen.
+    QLabel* LabPreviste() const { return labPreviste_; }
     // Hidden fields of the external workers, i = 1..NumeroThreadsSviluppo.
     QLineEdit* TxtPMin(int i) const { return lavoratori_->TxtPMin(i); }
     QLineEdit* TxtPMax(int i) const { return lavoratori_->TxtPMax(i); }
@@ -287,6 +290,8 @@ private:
     void AggiornaStatoOccupato();
     void ApplicaGiocoInAttesa();
     void GiocoScelto();
+    std::optional<combi::ParametriSviluppo> ParametriDelPannello() const;
+    void RichiediConteggio();
     void AggiornaComandiColonne();
     void SegnaModificatoDalPannello();
     void ImpostaModificato(bool modificato);
@@ -341,6 +346,8 @@ private:
     QLineEdit* labGaranzia_ = nullptr;
     QLabel* labColoreColSel_ = nullptr;
     CampiLavoratori* lavoratori_ = nullptr;
+    class ConteggioDalVivo* conteggio_ = nullptr;
+    QLabel* labPreviste_ = nullptr;
     double inizioEsterno_ = 0;  // clock reading when the workers were started
     QString cartellaCorsa_;     // where the last external run's workers left their files
     bool riduciAllaFine_ = false;

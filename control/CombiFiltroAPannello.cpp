@@ -19,6 +19,7 @@
 
 #include "ArchivioProprieta.h"
 #include "CampiLavoratori.h"
+#include "ConteggioDalVivo.h"
 #include "ChiaviComandi.h"
 #include "ComandiPannello.h"
 #include "Conteggi.h"
@@ -84,6 +85,22 @@ void CombiFiltroA::CostruisciPannello() {
         labCondizionate_->setText(TestoContatore(tenute));
     });
     connect(lavoratori_, &CampiLavoratori::CompletamentoCambiato, this, [this] { ControllaCompletamento(); });
+
+    conteggio_ = new ConteggioDalVivo(this);
+    connect(conteggio_, &ConteggioDalVivo::Avviato, this, [this] { labPreviste_->setText("Colonne previste: …"); });
+    connect(conteggio_, &ConteggioDalVivo::Avanzamento, this, [this](int percentuale) {
+        labPreviste_->setText(QString("Colonne previste: … %1 %").arg(percentuale));
+    });
+    connect(conteggio_, &ConteggioDalVivo::Risultato, this, [this](quint64 tenute) {
+        labPreviste_->setText("Colonne previste: " + TestoContatore(double(tenute)));
+    });
+    connect(conteggio_, &ConteggioDalVivo::Indeterminato, this, [this] { labPreviste_->setText("Colonne previste: –"); });
+    // Whatever changes the system restarts the count.
+    connect(griglia_, &QTableWidget::itemChanged, this, [this] { RichiediConteggio(); });
+    for (auto segnale : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(lbQuadroRec_->model(), segnale, this, [this] { RichiediConteggio(); });
+    connect(lbQuadroRec_->model(), &QAbstractItemModel::dataChanged, this, [this] { RichiediConteggio(); });
+    connect(lbQuadroRec_->model(), &QAbstractItemModel::modelReset, this, [this] { RichiediConteggio(); });
 }
 
 QWidget* CombiFiltroA::CostruisciBarra() {
@@ -139,6 +156,7 @@ QWidget* CombiFiltroA::CostruisciBarra() {
     connect(cmbRid_, &QComboBox::currentIndexChanged, this, [this] {
         SegnaModificatoDalPannello();  // the user picks only real entries: the value changed
         AggiornaGaranzia();
+        RichiediConteggio();
     });
     return pannello;
 }
@@ -161,6 +179,9 @@ QWidget* CombiFiltroA::CostruisciFondo() {
         campo->setMaximumWidth(120);
         riga->addWidget(campo);
     }
+    labPreviste_ = new QLabel(pannello);
+    labPreviste_->setObjectName("LabPreviste");
+    riga->addWidget(labPreviste_);
     riga->addWidget(labGaranzia_, 1);  // reaches the right edge
     labNumSel_->setText("0");
     // Picking numbers one after the other changes the integral count each
@@ -201,10 +222,12 @@ void CombiFiltroA::ClasseCambiata() {
     }
     AggiornaIntegrale();
     AggiornaGaranzia();
+    RichiediConteggio();
 }
 
 void CombiFiltroA::NumeriCambiati() {
     SegnaModificatoDalPannello();
+    RichiediConteggio();
     AggiornaIntegrale();
     AggiornaGaranzia();
     labNumSel_->setText(QString::number(ContaNumeriSel()));
@@ -244,6 +267,27 @@ void CombiFiltroA::AggiornaStatoOccupato() {
     AggiornaComandiColonne();
     emit OccupatoCambiato(occupato);
     if (!occupato) ApplicaGiocoInAttesa();
+    // A run needs the cores: the live count waits for its end.
+    if (occupato) conteggio_->Ferma();
+    else RichiediConteggio();
+}
+
+// The system on screen as the engine would develop it; nothing when it
+// cannot be developed (class above the picked numbers, no class).
+std::optional<combi::ParametriSviluppo> CombiFiltroA::ParametriDelPannello() const {
+    try {
+        combi::ParametriSviluppo p = combi::ParametriDalFile(SistemaCorrente());
+        combi::ControllaParametri(p, {});
+        return p;
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
+void CombiFiltroA::RichiediConteggio() {
+    if (caricamento_ || conteggio_ == nullptr) return;
+    if (Occupato()) return;
+    conteggio_->Richiedi(ParametriDelPannello());
 }
 
 // The game combo stays enabled during a run, but another game would refill

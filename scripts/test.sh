@@ -15,5 +15,5 @@ LANG=it_IT.UTF-8 LC_ALL=it_IT.UTF-8 build/bin/control_tests --gtest_brief=1
 
 cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCF_SANITIZE=ON -DCF_GUI=ON -DCF_BENCH=OFF
 # combifiltro-cli too: the MPI test and the parallel development run the program.
-cmake --build build-asan --target engine_tests cli_tests combifiltro-cli control_tests editors_tests tools_tests
+cmake --build build-asan --target engine_tests cli_tests combifiltro-cli control_tests editors_tests tools_tests app_tests
 ctest --test-dir build-asan --output-on-failure -j2
