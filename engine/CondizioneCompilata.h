@@ -60,6 +60,9 @@ public:
     // The same without q's last number: exact for every kind but the gaps',
     // whose blocks that depend on it are tallied apart (ContaRiga).
     uint32_t ChiaveDaRiga(uint32_t riga, int y) const;
+    // Over a row the masks do not change with y: the row's key alone fixes
+    // them, so a row judges the condition once for all its blocks.
+    bool CostanteNellaRiga() const;
 
     // Where one thread tallies a condition's blocks.
     struct Tallie {
@@ -195,6 +198,16 @@ inline uint32_t CondizioneCompilata::ChiaveDaRiga(uint32_t riga, int y) const {
         return riga / 3 + (ultimo < 2 && uint32_t(y & 1) != ultimo);
     }
     default: return riga;  // the gap kinds tally their exceptions as blocks
+    }
+}
+
+inline bool CondizioneCompilata::CostanteNellaRiga() const {
+    switch (genere_) {
+    case Genere::Ampiezza: return k_ >= 3;                 // the first number is in the row's prefix
+    case Genere::Posizioni: return costante_ != k_ - 1;     // not the number at position k-1
+    case Genere::Peso: return !penultimaScelta_;
+    case Genere::Costante: return true;
+    default: return false;
     }
 }
 

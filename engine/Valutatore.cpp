@@ -10,6 +10,7 @@ namespace {
 
 constexpr size_t kUltimi = kMaxNumero + 1;  // the prefix's last number, 0..90
 constexpr uint32_t kBlocchiPerRiordino = 4096;
+constexpr size_t kMembriVeloci = 3;  // panels and groups up to this size count without loops
 
 }  // namespace
 
@@ -17,6 +18,7 @@ struct Valutatore::Quadro {
     std::vector<int> membri;   // judged conditions of the panel
     std::vector<int> finali;   // members that must pass on their own
     int minimo = 0, massimo = 0;
+    uint64_t valori = 0;       // the counts minimo..massimo, for few members
 };
 
 struct Valutatore::Gruppo {
@@ -25,6 +27,7 @@ struct Valutatore::Gruppo {
     int sempre = 0;            // members that pass on every column (type 0)
     std::vector<int> figli;    // member groups, already settled
     std::vector<int> accettati;  // counts of passed members that pass the group
+    uint64_t valori = 0;         // the same as bits, for few members
     bool finale = false;       // must pass on its own
 };
 
@@ -69,6 +72,7 @@ void Valutatore::CompilaQuadri(const TabellaCondizioni& tabella, const TabellaQu
             if (tabella[size_t(indici_[i])].QuadroRec == p) q.membri.push_back(int(i));
         // With no recoverable member the count is 0 on every column: the
         // panel recovers nothing then, whatever its range.
+        q.valori = ValoriTra(q.minimo, q.massimo);
         if (!q.membri.empty()) quadri_.push_back(std::move(q));
     }
 }
@@ -104,6 +108,8 @@ void Valutatore::CompilaGruppi(const TabellaCondizioni& tabella) {
         const auto& conteggi = tabella[size_t(voci[chiusura].condizione)].Numeri;
         for (int n = g.sempre; n <= std::min(membri, kMaxNumero); ++n)
             if (conteggi[size_t(n)] != 0) g.accettati.push_back(n - g.sempre);
+        for (int v : g.accettati)
+            if (v < 64) g.valori |= uint64_t{1} << v;
         gruppi_.push_back(std::move(g));
         voci[apertura] = {kNessuna, -1, int(gruppi_.size()) - 1};
         voci.erase(voci.begin() + long(apertura) + 1, voci.begin() + long(chiusura) + 1);
@@ -138,6 +144,9 @@ Valutatore::Lavagna Valutatore::NuovaLavagna() const {
     l.primaRiga.assign(n, UINT32_MAX);
     l.ultimaRiga.assign(n, 0);
     l.ordine = foglieSole_;
+    for (int f : foglieSole_)
+        if (!condizioni_[size_t(f)].CostanteNellaRiga()) l.ordineRiga.push_back(f);
+    l.scartiRiga.assign(l.ordineRiga.size(), 0);
     l.righeBlocco.resize(n);
     l.scarti.assign(foglieSole_.size(), 0);
     return l;
@@ -167,27 +176,38 @@ CondizioneCompilata::Tallie Valutatore::TallieDi(size_t i, Lavagna& l) const {
 // one condition at a time while a candidate is left. chiave(i) gives the key
 // of condition i on this block.
 template <class Chiave>
-Maschera128 Valutatore::Verdetto(Maschera128 candidati, int ultimo, const Chiave& chiave, Lavagna& l) const {
+Maschera128 Valutatore::Verdetto(Maschera128 candidati, int ultimo, const Chiave& chiave, std::vector<int>& ordine,
+                                 std::vector<uint32_t>& scarti, Lavagna& l) const {
     Maschera128 esito = candidati;
-    if (++l.blocchi % kBlocchiPerRiordino == 0) Riordina(l);
-    for (size_t j = 0; j < l.ordine.size(); ++j) {
-        const int f = l.ordine[j];
+    if (esito.Vuota()) return esito;
+    if (++l.blocchi % kBlocchiPerRiordino == 0) Riordina(ordine, scarti);
+    for (size_t j = 0; j < ordine.size(); ++j) {
+        const int f = ordine[j];
         MaschereSup(f, chiave(f), ultimo, l);
         esito &= l.superate[size_t(f)];
         if (esito.Vuota()) {
-            ++l.scarti[j];
+            ++scarti[j];
             return esito;
         }
     }
+    std::array<Maschera128, kMembriVeloci> membri;
     for (const Quadro& q : quadri_) {
-        ConteggioMaschere conteggio(q.membri.size());
-        for (int m : q.membri) {
-            Maschere(m, chiave(m), ultimo, l);
-            conteggio.Aggiungi(l.recuperabili[size_t(m)]);
-        }
         Maschera128 dentro;
-        const int da = std::max(q.minimo, 0), a = std::min<int>(q.massimo, int(q.membri.size()));
-        for (int v = da; v <= a; ++v) dentro |= conteggio.Uguale(v);
+        if (q.membri.size() <= kMembriVeloci) {
+            for (size_t i = 0; i < q.membri.size(); ++i) {
+                Maschere(q.membri[i], chiave(q.membri[i]), ultimo, l);
+                membri[i] = l.recuperabili[size_t(q.membri[i])];
+            }
+            dentro = ConteggioInInsieme(membri.data(), q.membri.size(), q.valori);
+        } else {
+            ConteggioMaschere conteggio(q.membri.size());
+            for (int m : q.membri) {
+                Maschere(m, chiave(m), ultimo, l);
+                conteggio.Aggiungi(l.recuperabili[size_t(m)]);
+            }
+            const int da = std::max(q.minimo, 0), a = std::min<int>(q.massimo, int(q.membri.size()));
+            for (int v = da; v <= a; ++v) dentro |= conteggio.Uguale(v);
+        }
         for (int m : q.membri) l.superate[size_t(m)] |= l.recuperabili[size_t(m)] & dentro;
         for (int m : q.finali) esito &= l.superate[size_t(m)];
         if (esito.Vuota()) return esito;
@@ -195,11 +215,19 @@ Maschera128 Valutatore::Verdetto(Maschera128 candidati, int ultimo, const Chiave
     for (size_t g = 0; g < gruppi_.size(); ++g) {
         const Gruppo& gr = gruppi_[g];
         for (int f : gr.proprie) MaschereSup(f, chiave(f), ultimo, l);
-        ConteggioMaschere conteggio(gr.foglie.size() + gr.figli.size());
-        for (int f : gr.foglie) conteggio.Aggiungi(l.superate[size_t(f)]);
-        for (int f : gr.figli) conteggio.Aggiungi(l.gruppi[size_t(f)]);
         Maschera128 passa;
-        for (int v : gr.accettati) passa |= conteggio.Uguale(v);
+        const size_t quanti = gr.foglie.size() + gr.figli.size();
+        if (quanti <= kMembriVeloci) {
+            size_t i = 0;
+            for (int f : gr.foglie) membri[i++] = l.superate[size_t(f)];
+            for (int f : gr.figli) membri[i++] = l.gruppi[size_t(f)];
+            passa = ConteggioInInsieme(membri.data(), quanti, gr.valori);
+        } else {
+            ConteggioMaschere conteggio(quanti);
+            for (int f : gr.foglie) conteggio.Aggiungi(l.superate[size_t(f)]);
+            for (int f : gr.figli) conteggio.Aggiungi(l.gruppi[size_t(f)]);
+            for (int v : gr.accettati) passa |= conteggio.Uguale(v);
+        }
         l.gruppi[g] = passa;
         if (!gr.finale) continue;
         esito &= passa;
@@ -228,7 +256,7 @@ Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, bool i
             contatori.valori[n + i] += (l.recuperabili[i] & candidati).Conta();
         }
     }
-    return Verdetto(candidati, u, [&](int i) { return condizioni_[size_t(i)].Chiave(p); }, l);
+    return Verdetto(candidati, u, [&](int i) { return condizioni_[size_t(i)].Chiave(p); }, l.ordine, l.scarti, l);
 }
 
 void Valutatore::GiudicaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna& l) const {
@@ -239,22 +267,31 @@ void Valutatore::GiudicaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna
     }
     l.esitiRiga.clear();
     const int c = q.ultimo;
-    (scelti_ & Maschera128::Intervallo(yPrimo, yUltimo)).PerOgni([&](int y) {
-        const Maschera128 esito = Verdetto(sopra_[size_t(y)], y, [&](int i) {
+    // The conditions whose masks do not change over the row are judged once:
+    // what they leave bounds every block, and may end the whole row.
+    Maschera128 riga = Maschera128::Tutti();
+    for (int f : foglieSole_) {
+        const CondizioneCompilata& cc = condizioni_[size_t(f)];
+        if (cc.CostanteNellaRiga()) riga &= cc.Superate(cc.ChiaveDelBlocco(l.righeBlocco[size_t(f)], 0, c), 0);
+    }
+    const Maschera128 ys = scelti_ & Maschera128::Intervallo(yPrimo, yUltimo);
+    if ((riga & sopra_[size_t(yPrimo)]).Vuota()) return;
+    ys.PerOgni([&](int y) {
+        const Maschera128 esito = Verdetto(sopra_[size_t(y)] & riga, y, [&](int i) {
             return condizioni_[size_t(i)].ChiaveDelBlocco(l.righeBlocco[size_t(i)], y, c);
-        }, l);
+        }, l.ordineRiga, l.scartiRiga, l);
         if (!esito.Vuota()) l.esitiRiga.push_back({y, esito});
     });
 }
 
 // The order of the conditions tried alone changes no verdict, only how soon
 // a dead block is left: the ones that ended the most blocks go first.
-void Valutatore::Riordina(Lavagna& l) {
+void Valutatore::Riordina(std::vector<int>& ordine, std::vector<uint32_t>& scarti) {
     std::vector<std::pair<uint32_t, int>> voci;
-    for (size_t j = 0; j < l.ordine.size(); ++j) voci.push_back({l.scarti[j], l.ordine[j]});
+    for (size_t j = 0; j < ordine.size(); ++j) voci.push_back({scarti[j], ordine[j]});
     std::stable_sort(voci.begin(), voci.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
-    for (size_t j = 0; j < voci.size(); ++j) l.ordine[j] = voci[j].second;
-    std::fill(l.scarti.begin(), l.scarti.end(), 0);
+    for (size_t j = 0; j < voci.size(); ++j) ordine[j] = voci[j].second;
+    std::fill(scarti.begin(), scarti.end(), 0);
 }
 
 void Valutatore::Riversa(Lavagna& l, Contatori& contatori) const {

@@ -48,8 +48,8 @@ public:
         std::vector<uint32_t> primaChiave, ultimaChiave, primaRiga, ultimaRiga;  // since the last Riversa
         // The conditions that must pass on their own, in the order tried:
         // the one that most often leaves no candidate first.
-        std::vector<int> ordine;
-        std::vector<uint32_t> scarti;  // blocks each one ended, since the last reordering
+        std::vector<int> ordine, ordineRiga;  // all of them; those a row cannot judge once
+        std::vector<uint32_t> scarti, scartiRiga;  // blocks each one ended, since the last reordering
         uint32_t blocchi = 0;
         std::vector<uint32_t> righeBlocco;  // the row keys of the current row
         // The blocks of the last row judged that keep a column: y and the candidates kept.
@@ -95,13 +95,14 @@ private:
     void CompilaQuadri(const TabellaCondizioni& tabella, const TabellaQuadri& quadri);
     void CompilaGruppi(const TabellaCondizioni& tabella);
     template <class Chiave>
-    Maschera128 Verdetto(Maschera128 candidati, int ultimo, const Chiave& chiave, Lavagna& l) const;
+    Maschera128 Verdetto(Maschera128 candidati, int ultimo, const Chiave& chiave, std::vector<int>& ordine,
+                         std::vector<uint32_t>& scarti, Lavagna& l) const;
     void Maschere(int i, uint32_t chiave, int ultimo, Lavagna& l) const;
     void MaschereSup(int i, uint32_t chiave, int ultimo, Lavagna& l) const;
     CondizioneCompilata::Tallie TallieDi(size_t i, Lavagna& l) const;
     void RiversaRighe(size_t i, Lavagna& l) const;
     void RiversaChiavi(size_t i, Lavagna& l, Contatori& contatori) const;
-    static void Riordina(Lavagna& l);
+    static void Riordina(std::vector<int>& ordine, std::vector<uint32_t>& scarti);
 
     std::vector<CondizioneCompilata> condizioni_;  // the judged conditions, in table order
     std::vector<int> indici_;                      // their table indices
@@ -110,6 +111,7 @@ private:
     Maschera128 scelti_;
     std::vector<int> posto_;                       // table index -> position in condizioni_, -1
     std::vector<int> foglieSole_;      // must pass on their own, in no active panel
+    std::vector<int> foglieDiRiga_;    // those of them a whole row judges once
     std::vector<Quadro> quadri_;
     std::vector<Gruppo> gruppi_;       // inner groups before the groups that contain them
     std::array<Maschera128, kMaxNumero + 1> sopra_{};  // picked numbers above each number
