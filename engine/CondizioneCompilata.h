@@ -89,9 +89,32 @@ public:
         Maschere(chiave, ultimo, sup, rec);
         return sup;
     }
+    // Both masks of the block of y in a row (ChiaveDelBlocco, then Maschere).
+    void MaschereDelBlocco(uint32_t riga, int y, int ultimo, Maschera128& sup, Maschera128& rec) const;
+    Maschera128 SuperateDelBlocco(uint32_t riga, int y, int ultimo) const {
+        Maschera128 sup, rec;
+        MaschereDelBlocco(riga, y, ultimo, sup, rec);
+        return sup;
+    }
 
 private:
-    enum class Genere : uint8_t;
+    enum class Genere : uint8_t {
+        Conta,            // Punti Col., Pari-Dispari: members of a number set
+        Peso,
+        PerSomma,         // Resto, Baricentro: tabulated by the prefix's sum
+        Ampiezza,
+        Posizioni,
+        DistanzaMinima,
+        DistanzaMassima,
+        Vicini,           // Consecutivi, Ponte: neighbours at a fixed gap
+        Interruzioni,
+        Parita,           // Vortice, Simmetrie, Sequenze, Paralleli
+        Costante,         // a value that no candidate can change
+    };
+    template <Genere G> uint32_t ChiaveDaRigaDi(uint32_t riga, int y) const;
+    template <Genere G> uint32_t ChiaveDelBloccoDi(uint32_t riga, int y, int ultimo) const;
+    template <Genere G> void MaschereDi(uint32_t chiave, int ultimo, Maschera128& sup, Maschera128& rec) const;
+    template <class F> decltype(auto) PerGenere(F&& f) const;
 
     bool Accetta(int64_t v) const;
     bool Recupera(int64_t v) const;
@@ -128,19 +151,6 @@ private:
     Condizione origine_;                   // for the parity measures above the tabulated classes
 };
 
-enum class CondizioneCompilata::Genere : uint8_t {
-    Conta,            // Punti Col., Pari-Dispari: members of a number set
-    Peso,
-    PerSomma,         // Resto, Baricentro: tabulated by the prefix's sum
-    Ampiezza,
-    Posizioni,
-    DistanzaMinima,
-    DistanzaMassima,
-    Vicini,           // Consecutivi, Ponte: neighbours at a fixed gap
-    Interruzioni,
-    Parita,           // Vortice, Simmetrie, Sequenze, Paralleli
-    Costante,         // a value that no candidate can change
-};
 
 inline bool CondizioneCompilata::Accetta(int64_t v) const {
     return elenco_ ? dettaglio::InElenco(punti_, v) : minPunti_ <= v && v <= maxPunti_;
@@ -185,20 +195,112 @@ inline uint32_t CondizioneCompilata::PesoDi(const Prefisso& p) const {
     return v;
 }
 
-inline uint32_t CondizioneCompilata::ChiaveDaRiga(uint32_t riga, int y) const {
-    switch (genere_) {
-    case Genere::Conta: return riga + uint32_t(insieme_.Contiene(y));
-    case Genere::Peso: return riga + (penultimaScelta_ ? uint32_t(y) : 0);
-    case Genere::PerSomma: return riga + uint32_t(y);
-    case Genere::Ampiezza: return k_ >= 3 ? riga : uint32_t(y);  // y is the first number in class 2
-    case Genere::Posizioni: return costante_ == k_ - 1 ? uint32_t(y) : riga;
-    case Genere::Parita: return (y & 1) ? riga >> 4 : riga & 15;
-    case Genere::Interruzioni: {
+// Each kind's block key and masks, one function template per step, written
+// once: the switches below dispatch on the kind, and the hot path fuses the
+// two steps of a kind under one switch (MaschereDelBlocco).
+
+template <CondizioneCompilata::Genere G>
+[[gnu::always_inline]] inline uint32_t CondizioneCompilata::ChiaveDaRigaDi(uint32_t riga, int y) const {
+    using enum Genere;
+    if constexpr (G == Conta) return riga + uint32_t(insieme_.Contiene(y));
+    else if constexpr (G == Peso) return riga + (penultimaScelta_ ? uint32_t(y) : 0);
+    else if constexpr (G == PerSomma) return riga + uint32_t(y);
+    else if constexpr (G == Ampiezza) return k_ >= 3 ? riga : uint32_t(y);  // y is the first number in class 2
+    else if constexpr (G == Posizioni) return costante_ == k_ - 1 ? uint32_t(y) : riga;
+    else if constexpr (G == Parita) return (y & 1) ? riga >> 4 : riga & 15;
+    else if constexpr (G == Interruzioni) {
         const uint32_t ultimo = riga % 3;
         return riga / 3 + (ultimo < 2 && uint32_t(y & 1) != ultimo);
+    } else return riga;  // the gap kinds tally their exceptions as blocks
+}
+
+template <CondizioneCompilata::Genere G>
+[[gnu::always_inline]] inline uint32_t CondizioneCompilata::ChiaveDelBloccoDi(uint32_t riga, int y, int ultimo) const {
+    using enum Genere;
+    // An empty q (class 2): the block's prefix is y alone, with no gap.
+    const int32_t gap = y - ultimo;
+    if constexpr (G == Vicini) return riga + (ultimo != 0 && gap == scarto_);
+    else if constexpr (G == DistanzaMinima) {
+        if (ultimo == 0) return dettaglio::kSenzaDistanza;
+        return riga == dettaglio::kSenzaDistanza ? uint32_t(gap) : std::min(riga, uint32_t(gap));
+    } else if constexpr (G == DistanzaMassima) return ultimo == 0 ? 0 : std::max(riga, uint32_t(gap));
+    else return ChiaveDaRigaDi<G>(riga, y);
+}
+
+template <CondizioneCompilata::Genere G>
+[[gnu::always_inline]] inline void CondizioneCompilata::MaschereDi(uint32_t chiave, int ultimo, Maschera128& sup,
+                                                                   Maschera128& rec) const {
+    using enum Genere;
+    if constexpr (G == Conta || G == PerSomma) {
+        sup = sup_[chiave];
+        rec = rec_[chiave];
+    } else if constexpr (G == Peso) {
+        if (ultimaScelta_) {
+            sup = SupSpostato(chiave);
+            rec = RecSpostato(chiave);
+        } else {
+            sup = TuttiSe(Accetta(chiave));
+            rec = TuttiSe(Recupera(chiave));
+        }
+    } else if constexpr (G == Ampiezza) {  // x - first
+        sup = sup_[0].Sposta(int(chiave));
+        rec = rec_[0].Sposta(int(chiave));
+    } else if constexpr (G == Posizioni) {
+        if (costante_ == k_) {  // the last number itself
+            sup = SupSpostato(0);
+            rec = RecSpostato(0);
+        } else {
+            sup = TuttiSe(Accetta(chiave));
+            rec = TuttiSe(Recupera(chiave));
+        }
+    } else if constexpr (G == DistanzaMinima || G == DistanzaMassima || G == Vicini || G == Interruzioni) {
+        sup = sup_[chiave].Sposta(ultimo);  // over the gap x - last
+        rec = rec_[chiave].Sposta(ultimo);
+    } else if constexpr (G == Parita) {
+        sup = dettaglio::kPerParita[chiave & 3];
+        rec = dettaglio::kPerParita[chiave >> 2];
+    } else {  // Costante
+        sup = TuttiSe(Accetta(costante_));
+        rec = TuttiSe(Recupera(costante_));
     }
-    default: return riga;  // the gap kinds tally their exceptions as blocks
+}
+
+// Calls f.template operator()<G>() for the condition's kind.
+template <class F>
+[[gnu::always_inline]] inline decltype(auto) CondizioneCompilata::PerGenere(F&& f) const {
+    using enum Genere;
+    switch (genere_) {
+    case Conta: return f.template operator()<Conta>();
+    case Peso: return f.template operator()<Peso>();
+    case PerSomma: return f.template operator()<PerSomma>();
+    case Ampiezza: return f.template operator()<Ampiezza>();
+    case Posizioni: return f.template operator()<Posizioni>();
+    case DistanzaMinima: return f.template operator()<DistanzaMinima>();
+    case DistanzaMassima: return f.template operator()<DistanzaMassima>();
+    case Vicini: return f.template operator()<Vicini>();
+    case Interruzioni: return f.template operator()<Interruzioni>();
+    case Parita: return f.template operator()<Parita>();
+    case Costante: break;
     }
+    return f.template operator()<Costante>();
+}
+
+inline uint32_t CondizioneCompilata::ChiaveDaRiga(uint32_t riga, int y) const {
+    return PerGenere([&]<Genere G>() { return ChiaveDaRigaDi<G>(riga, y); });
+}
+
+inline uint32_t CondizioneCompilata::ChiaveDelBlocco(uint32_t riga, int y, int ultimo) const {
+    return PerGenere([&]<Genere G>() { return ChiaveDelBloccoDi<G>(riga, y, ultimo); });
+}
+
+[[gnu::always_inline]] inline void CondizioneCompilata::Maschere(uint32_t chiave, int ultimo, Maschera128& sup,
+                                                                 Maschera128& rec) const {
+    PerGenere([&]<Genere G>() { MaschereDi<G>(chiave, ultimo, sup, rec); });
+}
+
+[[gnu::always_inline]] inline void CondizioneCompilata::MaschereDelBlocco(uint32_t riga, int y, int ultimo,
+                                                                          Maschera128& sup, Maschera128& rec) const {
+    PerGenere([&]<Genere G>() { MaschereDi<G>(ChiaveDelBloccoDi<G>(riga, y, ultimo), y, sup, rec); });
 }
 
 inline bool CondizioneCompilata::CostanteNellaRiga() const {
@@ -208,66 +310,6 @@ inline bool CondizioneCompilata::CostanteNellaRiga() const {
     case Genere::Peso: return !penultimaScelta_;
     case Genere::Costante: return true;
     default: return false;
-    }
-}
-
-[[gnu::always_inline]] inline uint32_t CondizioneCompilata::ChiaveDelBlocco(uint32_t riga, int y, int ultimo) const {
-    // An empty q (class 2): the block's prefix is y alone, with no gap.
-    const int32_t gap = y - ultimo;
-    switch (genere_) {
-    case Genere::Vicini: return riga + (ultimo != 0 && gap == scarto_);
-    case Genere::DistanzaMinima:
-        if (ultimo == 0) return dettaglio::kSenzaDistanza;
-        return riga == dettaglio::kSenzaDistanza ? uint32_t(gap) : std::min(riga, uint32_t(gap));
-    case Genere::DistanzaMassima: return ultimo == 0 ? 0 : std::max(riga, uint32_t(gap));
-    default: return ChiaveDaRiga(riga, y);
-    }
-}
-
-[[gnu::always_inline]] inline void CondizioneCompilata::Maschere(uint32_t chiave, int ultimo, Maschera128& sup, Maschera128& rec) const {
-    switch (genere_) {
-    case Genere::Conta:
-    case Genere::PerSomma:
-        sup = sup_[chiave];
-        rec = rec_[chiave];
-        return;
-    case Genere::Peso:
-        if (ultimaScelta_) {
-            sup = SupSpostato(chiave);
-            rec = RecSpostato(chiave);
-        } else {
-            sup = TuttiSe(Accetta(chiave));
-            rec = TuttiSe(Recupera(chiave));
-        }
-        return;
-    case Genere::Ampiezza:  // x - first
-        sup = sup_[0].Sposta(int(chiave));
-        rec = rec_[0].Sposta(int(chiave));
-        return;
-    case Genere::Posizioni:
-        if (costante_ == k_) {  // the last number itself
-            sup = SupSpostato(0);
-            rec = RecSpostato(0);
-        } else {
-            sup = TuttiSe(Accetta(chiave));
-            rec = TuttiSe(Recupera(chiave));
-        }
-        return;
-    case Genere::DistanzaMinima:
-    case Genere::DistanzaMassima:
-    case Genere::Vicini:
-    case Genere::Interruzioni:  // over the gap x - last
-        sup = sup_[chiave].Sposta(ultimo);
-        rec = rec_[chiave].Sposta(ultimo);
-        return;
-    case Genere::Parita:
-        sup = dettaglio::kPerParita[chiave & 3];
-        rec = dettaglio::kPerParita[chiave >> 2];
-        return;
-    case Genere::Costante:
-        sup = TuttiSe(Accetta(costante_));
-        rec = TuttiSe(Recupera(costante_));
-        return;
     }
 }
 

@@ -162,29 +162,27 @@ inline void Valutatore::Maschere(int i, uint32_t chiave, int ultimo, Lavagna& l)
     condizioni_[size_t(i)].Maschere(chiave, ultimo, l.superate[size_t(i)], l.recuperabili[size_t(i)]);
 }
 
-// For a condition whose recoverable mask no panel reads.
-inline void Valutatore::MaschereSup(int i, uint32_t chiave, int ultimo, Lavagna& l) const {
-    l.superate[size_t(i)] = condizioni_[size_t(i)].Superate(chiave, ultimo);
-}
-
 CondizioneCompilata::Tallie Valutatore::TallieDi(size_t i, Lavagna& l) const {
     return {l.tallie.data() + basi_[i], l.righe.data() + basiRighe_[i], &l.primaChiave[i], &l.ultimaChiave[i],
             &l.primaRiga[i], &l.ultimaRiga[i]};
 }
 
-// The verdict on the candidates after a prefix whose last number is `ultimo`:
-// one condition at a time while a candidate is left. chiave(i) gives the key
-// of condition i on this block.
-template <class Chiave>
-Maschera128 Valutatore::Verdetto(Maschera128 candidati, int ultimo, const Chiave& chiave, std::vector<int>& ordine,
+// The verdict on the candidates of a block: one condition at a time while a
+// candidate is left. maschere(i, sup, rec) gives the masks of condition i on
+// this block (rec is left unread for the conditions in no panel).
+template <class Fornitore>
+Maschera128 Valutatore::Verdetto(Maschera128 candidati, const Fornitore& maschere, std::vector<int>& ordine,
                                  std::vector<uint32_t>& scarti, Lavagna& l) const {
+    Maschera128* sup = l.superate.data();
+    Maschera128* rec = l.recuperabili.data();
+    Maschera128 scarto;
     Maschera128 esito = candidati;
     if (esito.Vuota()) return esito;
     if (++l.blocchi % kBlocchiPerRiordino == 0) Riordina(ordine, scarti);
     for (size_t j = 0; j < ordine.size(); ++j) {
         const int f = ordine[j];
-        MaschereSup(f, chiave(f), ultimo, l);
-        esito &= l.superate[size_t(f)];
+        maschere(f, sup[f], scarto);
+        esito &= sup[f];
         if (esito.Vuota()) {
             ++scarti[j];
             return esito;
@@ -195,36 +193,37 @@ Maschera128 Valutatore::Verdetto(Maschera128 candidati, int ultimo, const Chiave
         Maschera128 dentro;
         if (q.membri.size() <= kMembriVeloci) {
             for (size_t i = 0; i < q.membri.size(); ++i) {
-                Maschere(q.membri[i], chiave(q.membri[i]), ultimo, l);
-                membri[i] = l.recuperabili[size_t(q.membri[i])];
+                const int m = q.membri[i];
+                maschere(m, sup[m], rec[m]);
+                membri[i] = rec[m];
             }
             dentro = ConteggioInInsieme(membri.data(), q.membri.size(), q.valori);
         } else {
             ConteggioMaschere conteggio(q.membri.size());
             for (int m : q.membri) {
-                Maschere(m, chiave(m), ultimo, l);
-                conteggio.Aggiungi(l.recuperabili[size_t(m)]);
+                maschere(m, sup[m], rec[m]);
+                conteggio.Aggiungi(rec[m]);
             }
             const int da = std::max(q.minimo, 0), a = std::min<int>(q.massimo, int(q.membri.size()));
             for (int v = da; v <= a; ++v) dentro |= conteggio.Uguale(v);
         }
-        for (int m : q.membri) l.superate[size_t(m)] |= l.recuperabili[size_t(m)] & dentro;
-        for (int m : q.finali) esito &= l.superate[size_t(m)];
+        for (int m : q.membri) sup[m] |= rec[m] & dentro;
+        for (int m : q.finali) esito &= sup[m];
         if (esito.Vuota()) return esito;
     }
     for (size_t g = 0; g < gruppi_.size(); ++g) {
         const Gruppo& gr = gruppi_[g];
-        for (int f : gr.proprie) MaschereSup(f, chiave(f), ultimo, l);
+        for (int f : gr.proprie) maschere(f, sup[f], scarto);
         Maschera128 passa;
         const size_t quanti = gr.foglie.size() + gr.figli.size();
         if (quanti <= kMembriVeloci) {
             size_t i = 0;
-            for (int f : gr.foglie) membri[i++] = l.superate[size_t(f)];
+            for (int f : gr.foglie) membri[i++] = sup[f];
             for (int f : gr.figli) membri[i++] = l.gruppi[size_t(f)];
             passa = ConteggioInInsieme(membri.data(), quanti, gr.valori);
         } else {
             ConteggioMaschere conteggio(quanti);
-            for (int f : gr.foglie) conteggio.Aggiungi(l.superate[size_t(f)]);
+            for (int f : gr.foglie) conteggio.Aggiungi(sup[f]);
             for (int f : gr.figli) conteggio.Aggiungi(l.gruppi[size_t(f)]);
             for (int v : gr.accettati) passa |= conteggio.Uguale(v);
         }
@@ -256,7 +255,10 @@ Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, bool i
             contatori.valori[n + i] += (l.recuperabili[i] & candidati).Conta();
         }
     }
-    return Verdetto(candidati, u, [&](int i) { return condizioni_[size_t(i)].Chiave(p); }, l.ordine, l.scarti, l);
+    const CondizioneCompilata* cc = condizioni_.data();
+    return Verdetto(candidati, [&](int i, Maschera128& sup, Maschera128& rec) {
+        cc[i].Maschere(cc[i].Chiave(p), u, sup, rec);
+    }, l.ordine, l.scarti, l);
 }
 
 void Valutatore::GiudicaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna& l) const {
@@ -269,16 +271,16 @@ void Valutatore::GiudicaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna
     const int c = q.ultimo;
     // The conditions whose masks do not change over the row are judged once:
     // what they leave bounds every block, and may end the whole row.
+    const CondizioneCompilata* cc = condizioni_.data();
+    const uint32_t* righe = l.righeBlocco.data();
     Maschera128 riga = Maschera128::Tutti();
-    for (int f : foglieSole_) {
-        const CondizioneCompilata& cc = condizioni_[size_t(f)];
-        if (cc.CostanteNellaRiga()) riga &= cc.Superate(cc.ChiaveDelBlocco(l.righeBlocco[size_t(f)], 0, c), 0);
-    }
+    for (int f : foglieSole_)
+        if (cc[f].CostanteNellaRiga()) riga &= cc[f].SuperateDelBlocco(righe[f], 0, c);
     const Maschera128 ys = scelti_ & Maschera128::Intervallo(yPrimo, yUltimo);
     if ((riga & sopra_[size_t(yPrimo)]).Vuota()) return;
     ys.PerOgni([&](int y) {
-        const Maschera128 esito = Verdetto(sopra_[size_t(y)] & riga, y, [&](int i) {
-            return condizioni_[size_t(i)].ChiaveDelBlocco(l.righeBlocco[size_t(i)], y, c);
+        const Maschera128 esito = Verdetto(sopra_[size_t(y)] & riga, [&](int i, Maschera128& sup, Maschera128& rec) {
+            cc[i].MaschereDelBlocco(righe[i], y, c, sup, rec);
         }, l.ordineRiga, l.scartiRiga, l);
         if (!esito.Vuota()) l.esitiRiga.push_back({y, esito});
     });

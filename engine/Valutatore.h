@@ -94,11 +94,10 @@ private:
 
     void CompilaQuadri(const TabellaCondizioni& tabella, const TabellaQuadri& quadri);
     void CompilaGruppi(const TabellaCondizioni& tabella);
-    template <class Chiave>
-    Maschera128 Verdetto(Maschera128 candidati, int ultimo, const Chiave& chiave, std::vector<int>& ordine,
+    template <class Fornitore>
+    Maschera128 Verdetto(Maschera128 candidati, const Fornitore& maschere, std::vector<int>& ordine,
                          std::vector<uint32_t>& scarti, Lavagna& l) const;
     void Maschere(int i, uint32_t chiave, int ultimo, Lavagna& l) const;
-    void MaschereSup(int i, uint32_t chiave, int ultimo, Lavagna& l) const;
     CondizioneCompilata::Tallie TallieDi(size_t i, Lavagna& l) const;
     void RiversaRighe(size_t i, Lavagna& l) const;
     void RiversaChiavi(size_t i, Lavagna& l, Contatori& contatori) const;
