@@ -97,8 +97,8 @@ void F_Statistica::Passo() {
 void F_Statistica::Mostra() {
     const auto& d = *distribuzione_;
     labAvanzamento_->setText(QString("Colonne esaminate: %1 di %2")
-                                 .arg(QString::fromStdString(combi::FormatNumero(double(d.Misurate()), '.')))
-                                 .arg(QString::fromStdString(combi::FormatNumero(double(d.Totale()), '.'))));
+                                 .arg(QString::fromStdString(combi::FormatNumero(double(d.Misurate()))))
+                                 .arg(QString::fromStdString(combi::FormatNumero(double(d.Totale())))));
     tabella_->setRowCount(static_cast<int>(d.Conteggi().size()));
     int riga = 0;
     for (const auto& [valore, conta] : d.Conteggi()) {
