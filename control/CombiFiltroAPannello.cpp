@@ -297,6 +297,10 @@ void CombiFiltroA::EseguiPulsante(const QString& chiave) {
         if (QuantitaColonne() > 0) {
             QString tipoGioco = cmbTipoGioco_->currentText();
             emit StampaSk(tipoGioco);
+        } else {
+            // Nothing to print yet: say why rather than do nothing.
+            dialoghi_->Esclamazione("Stampa schedine",
+                                    "Nessuna colonna da stampare: sviluppare prima il sistema.");
         }
     } else {
         // "QuadroRecuperi", "VisualizzaColonne", "Naviga", "EffettoCondizioni",
