@@ -179,13 +179,15 @@ TEST(Schedine, PrintingWithNoColumnsSaysWhy) {
     EXPECT_TRUE(d.sistema.isEmpty());
 }
 
-// A printed sheet as a picture: the page inside the margins a printer keeps.
+// A printed A4 sheet as a picture at 100 dpi: the page inside the margins a
+// printer keeps.
 QImage Foglio(const ImpaginaSchedine& stampa) {
-    const double margine = 60;
-    QImage foglio((kA4 + QSizeF(2 * margine, 2 * margine)).toSize(), QImage::Format_RGB32);
+    const QSizeF pagina(747, 1089);
+    const double margine = 40;
+    QImage foglio((pagina + QSizeF(2 * margine, 2 * margine)).toSize(), QImage::Format_RGB32);
     foglio.fill(Qt::white);
     QPainter pittore(&foglio);
-    stampa.DisegnaPagina(pittore, QRectF(QPointF(margine, margine), kA4), 0);
+    stampa.DisegnaPagina(pittore, QRectF(QPointF(margine, margine), pagina), 0);
     return foglio;
 }
 
