@@ -198,7 +198,7 @@ void F_Statistica::MostraTabella() {
     tabella_->setRowCount(int(distribuzione_.size()));
     int riga = 0;
     for (const auto& [valore, quante] : distribuzione_) {
-        tabella_->setItem(riga, 0, Cella(Numero(valore)));
+        tabella_->setItem(riga, 0, Cella(QString::number(valore)));  // as the editor's boxes take it
         tabella_->setItem(riga, 1, Cella(Numero(double(quante))));
         tabella_->setItem(riga, 2, Cella(Quota(quante, totale_)));
         if (combi::ValoreAccettato(condizione_, valore))

@@ -18,7 +18,10 @@ namespace {
 // Half the width of a bar, in values: bars of neighbouring values keep a gap.
 constexpr double kMezzaBarra = 0.4;
 
+// Counts are grouped as every count of the program; values of a measure are
+// written as the editors' boxes take them ("1050", not "1.050").
 QString Numero(double valore) { return QString::fromStdString(combi::FormatNumero(valore)); }
+QString Valore(double valore) { return QString::number(qint64(std::llround(valore))); }
 
 }  // namespace
 
@@ -71,7 +74,7 @@ void GraficoBarre::resizeEvent(QResizeEvent* evento) {
 void GraficoBarre::ImpostaAsseValori() {
     if (conteggi_.empty()) return;
     const double larghezzaEtichetta =
-        fontMetrics().horizontalAdvance(Numero(std::max(std::abs(conteggi_.begin()->first), conteggi_.rbegin()->first))) + 28;
+        fontMetrics().horizontalAdvance(Valore(std::max(std::abs(conteggi_.begin()->first), conteggi_.rbegin()->first))) + 28;
     const int tacche = std::clamp(int(width() / larghezzaEtichetta), 4, 12);
     // The outer bars keep a little air from the frame, and a few values do
     // not swell into slabs: the axis spans at least 8 values.
@@ -97,7 +100,8 @@ QAreaSeries* GraficoBarre::Barre(bool accettate, const std::function<bool(int32_
 }
 
 // The labels sit on round values; QCategoryAxis places each at the end of
-// its category, so the first category ends on the first tick.
+// its category, so the first category ends on the first tick. The value axis
+// (`interi`) writes plain values, the count axis grouped counts.
 void GraficoBarre::ImpostaAsse(QCategoryAxis* asse, double minimo, double massimo, bool interi, int tacche) {
     for (const QString& etichetta : asse->categoriesLabels()) asse->remove(etichetta);
     const scala::Scala s = scala::ScalaRotonda(minimo, massimo, tacche, interi);
@@ -106,7 +110,7 @@ void GraficoBarre::ImpostaAsse(QCategoryAxis* asse, double minimo, double massim
     const int quante = int(std::llround((s.ultimo - s.primo) / s.passo));
     for (int i = 0; i <= quante; ++i) {
         const double tacca = s.primo + i * s.passo;
-        if (tacca >= da - 1e-9 && tacca <= a + 1e-9) asse->append(Numero(tacca), tacca);
+        if (tacca >= da - 1e-9 && tacca <= a + 1e-9) asse->append(interi ? Valore(tacca) : Numero(tacca), tacca);
     }
     asse->setRange(da, a);
 }
@@ -116,7 +120,7 @@ QString GraficoBarre::TestoValore(int32_t valore) const {
     if (trovato == conteggi_.end() || totale_ == 0) return {};
     const double quota = 100.0 * double(trovato->second) / double(totale_);
     return QString("%1 %2: %3 colonne (%4 %)")
-        .arg(misura_, Numero(valore), Numero(double(trovato->second)),
+        .arg(misura_, Valore(valore), Numero(double(trovato->second)),
              QString::fromStdString(combi::FormatDecimale(quota, 2)));
 }
 

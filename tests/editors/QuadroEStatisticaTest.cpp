@@ -200,6 +200,11 @@ TEST(Statistica, IlGraficoHaTaccheLeggibiliEDiceIlValoreIndicato) {
     EXPECT_EQ(indicato[0][0].toString(), "Peso 200: 1" + m + "234 colonne (0" + Decimali() + "10 %)");
     grafico.Indica(QPointF(300, 10), true);  // no column has 300
     EXPECT_TRUE(indicato[1][0].toString().isEmpty());
+    // A value is written as the editor's boxes take it, a count grouped.
+    grafico.ImpostaDati({{1050, 2500}}, "Peso", {});
+    grafico.Indica(QPointF(1050.2, 1), true);
+    EXPECT_EQ(indicato[2][0].toString(), "Peso 1050: 2" + m + "500 colonne (100" + Decimali() + "00 %)");
+    EXPECT_TRUE(grafico.AsseX()->categoriesLabels().contains("1050"));
 }
 
 // Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-editori.sh)
