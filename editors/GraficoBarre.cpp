@@ -25,11 +25,13 @@ QString Valore(double valore) { return QString::number(qint64(std::llround(valor
 
 }  // namespace
 
-GraficoBarre::GraficoBarre(QWidget* genitore) : QChartView(genitore) {
+// Built on its own chart: the view's default one would be orphaned (and
+// leaked) by setChart.
+GraficoBarre::GraficoBarre(QWidget* genitore) : QChartView(new QChart, genitore) {
     setObjectName("GraficoBarre");
     setRenderHint(QPainter::Antialiasing);
     setMinimumSize(420, 260);
-    auto* grafico = new QChart;
+    QChart* grafico = chart();
     grafico->legend()->hide();
     grafico->setMargins(QMargins(4, 4, 8, 4));
     asseX_ = new QCategoryAxis(grafico);
@@ -38,7 +40,6 @@ GraficoBarre::GraficoBarre(QWidget* genitore) : QChartView(genitore) {
     asseY_->setTitleText("Colonne");
     grafico->addAxis(asseX_, Qt::AlignBottom);
     grafico->addAxis(asseY_, Qt::AlignLeft);
-    setChart(grafico);
 }
 
 void GraficoBarre::ImpostaDati(const combi::Distribuzione& conteggi, const QString& misura,
@@ -93,6 +94,7 @@ QAreaSeries* GraficoBarre::Barre(bool accettate, const std::function<bool(int32_
               << QPointF(valore + kMezzaBarra, altezza) << QPointF(valore + kMezzaBarra, 0);
     }
     auto* barre = new QAreaSeries(alto);
+    alto->setParent(barre);  // an area does not own its line, and the chart deletes only the area
     barre->setName(accettate ? "Valori accettati" : "Altri valori");
     barre->setColor(colore);
     barre->setBorderColor(colore.darker(130));
