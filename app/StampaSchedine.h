@@ -1,6 +1,6 @@
 #pragma once
-// The print preview of the play slips: the developed columns of the control,
-// laid out as numbered slips for the chosen game.
+// The host's answer to "StampaSk": the print preview of the play slips of
+// the control's kept columns for the chosen game (tools/AnteprimaSchedine).
 
 #include <QString>
 

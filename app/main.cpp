@@ -9,8 +9,6 @@
 #include <QLocale>
 #include <QTranslator>
 
-#include <locale>
-
 #include "FinestraPrincipale.h"
 #include "Fotografia.h"
 
@@ -24,12 +22,6 @@ int main(int argc, char** argv) {
     if (traduzioneQt.load(QLocale(QLocale::Italian), "qtbase", "_",
                           QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(&traduzioneQt);
-    }
-    try {
-        // Counters group thousands as the user's locale does.
-        std::locale::global(std::locale(""));
-    } catch (const std::runtime_error&) {
-        // An unknown locale name in the environment: keep the classic one.
     }
 
     QCommandLineParser argomenti;

@@ -37,8 +37,8 @@ void MostraSistema(const FileSistema& s, std::ostream& out) {
             if (!t[r].empty()) out << " " << righe[r] << ": " << SuUnaRiga(t[r]) << ";";
         const Condizione& c = s.condizioni[i];
         if (c.ContaSuperate || c.ContaFallite || c.ContaRecuperabili)
-            out << " Superate: " << c.ContaSuperate << "; Scartate: " << c.ContaFallite
-                << "; Recuperate: " << c.ContaRecuperabili << ";";
+            out << " Superate: " << FormatNumero(c.ContaSuperate) << "; Scartate: " << FormatNumero(c.ContaFallite)
+                << "; Recuperate: " << FormatNumero(c.ContaRecuperabili) << ";";
         out << "\n";
     }
     out << "Quadri di recupero in uso :";

@@ -7,6 +7,7 @@
 #include "Argomenti.h"
 #include "Comandi.h"
 #include "FileColonne.h"
+#include "Formato.h"
 #include "Spoglio.h"
 
 namespace combi::cli {
@@ -21,7 +22,7 @@ int ComandoSpoglio(const Parole& parole, std::ostream& out, std::ostream&) {
     const Argomenti a(parole, {"estrazione", "minimo", "classe"});
     if (a.Posizionali().size() != 1) throw ErroreUso{"indicare un solo file di colonne (.col)"};
     const auto estrazione = a.Opzione("estrazione");
-    if (!estrazione) throw ErroreUso{"manca --estrazione, per esempio 5,12,90"};
+    if (!estrazione) throw ErroreUso{"manca --estrazione, per esempio 5,12,90 oppure \"5 12 90\""};
     if (const std::string messaggio = ControllaEstrazione(*estrazione); !messaggio.empty())
         throw ErroreUso{messaggio};
     const int minimo = a.Opzione("minimo") ? LeggiIntero(*a.Opzione("minimo"), 1, 10, "--minimo") : kMinimoPredefinito;
@@ -36,7 +37,7 @@ int ComandoSpoglio(const Parole& parole, std::ostream& out, std::ostream&) {
     out << "Colonna\tNumeri\tPunti\n";
     for (const RigaVincita& v : esito.vincite) out << v.colonna << "\t" << v.numeri << "\t" << v.punti << "\n";
     out << "\nVincita\tColonne\n";
-    for (const RigaRiepilogo& r : esito.riepilogo) out << r.vincita << "\t" << r.colonne << "\n";
+    for (const RigaRiepilogo& r : esito.riepilogo) out << r.vincita << "\t" << FormatNumero(double(r.colonne)) << "\n";
     return 0;
 }
 

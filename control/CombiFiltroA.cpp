@@ -58,7 +58,8 @@ CombiFiltroA::CombiFiltroA(ArchivioProprieta* archivio, ServizioDialoghi* dialog
 
     // Restoring the persisted properties.
     const int16_t classeSalvata = archivio_->LeggiIntero(kChiaveClasse, kPredefinito);
-    numeroThreads_ = archivio_->LeggiIntero(kChiaveThreads, kPredefinito);
+    // With nothing persisted, one development worker per core.
+    numeroThreads_ = archivio_->LeggiIntero(kChiaveThreads, int16_t(std::clamp(std::thread::hardware_concurrency(), 1u, 64u)));
     lavoratori_->Ricrea(numeroThreads_);
     RiempiClasseERiduzione();
     AggiornaComandiColonne();

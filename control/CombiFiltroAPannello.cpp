@@ -420,7 +420,8 @@ void CombiFiltroA::NuovaCondizione(int tipo) {
 
 void CombiFiltroA::StampaSchedine() {
     if (QuantitaColonne() == 0) {
-        dialoghi_->Informazione(QString(), "Nessuna colonna da stampare: sviluppare prima il sistema");
+        // Nothing to print yet: say why rather than do nothing.
+        dialoghi_->Esclamazione("Stampa schedine", "Nessuna colonna da stampare: sviluppare prima il sistema.");
         return;
     }
     QString tipoGioco = cmbTipoGioco_->currentText();

@@ -8,9 +8,25 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+namespace {
+
+// A picked number is white on deep blue, a free one near-black on light grey:
+// told apart at a glance whatever the desktop's style. Numbers an editor
+// switched off fade, a picked one keeping its blue.
+const char* const kStileNumeri = R"(
+QToolButton { background: #f2f2f2; color: #1a1a1a; border: 1px solid #b4b4b4; border-radius: 3px; }
+QToolButton:hover { border: 1px solid #0b3d91; }
+QToolButton:checked { background: #0b3d91; color: #ffffff; font-weight: bold; border: 1px solid #062a66; }
+QToolButton:disabled { background: #e6e6e6; color: #9a9a9a; border: 1px solid #d0d0d0; }
+QToolButton:checked:disabled { background: #6f86ad; color: #f0f0f0; }
+)";
+
+}  // namespace
+
 GrigliaNumeri::GrigliaNumeri(QWidget* genitore) : QWidget(genitore, Qt::Tool) {
     setObjectName("GrigliaNumeri");
     setWindowTitle("Selezione numeri");
+    setStyleSheet(kStileNumeri);
     auto* colonna = new QVBoxLayout(this);
     auto* griglia = new QGridLayout;
     griglia->setSpacing(2);

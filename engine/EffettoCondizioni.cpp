@@ -1,7 +1,5 @@
 #include "EffettoCondizioni.h"
 
-#include <locale>
-
 #include "Formato.h"
 
 namespace combi {
@@ -11,12 +9,12 @@ namespace {
 bool Collegamento(int tipo) { return tipo == kLinkOpen || tipo == kLinkClose; }
 
 // A count and its share, written into the two adjacent report columns.
-void Conteggio(RigaEffetto& riga, int colonna, int32_t conta, double integrali, char separatore) {
+void Conteggio(RigaEffetto& riga, int colonna, int32_t conta, double integrali, std::string_view separatore) {
     riga.testi[colonna] = FormatNumero(double(conta), separatore);
     riga.testi[colonna + 1] = std::to_string(Percentuale(double(conta), integrali));
 }
 
-RigaEffetto Riga(const Condizione& c, int id, double integrali, char separatore) {
+RigaEffetto Riga(const Condizione& c, int id, double integrali, std::string_view separatore) {
     RigaEffetto riga;
     riga.id = id;
     riga.testi[kEffettoId] = std::to_string(id);
@@ -31,7 +29,7 @@ RigaEffetto Riga(const Condizione& c, int id, double integrali, char separatore)
 }  // namespace
 
 std::vector<RigaEffetto> RigheEffetto(const TabellaCondizioni& tabella, double colonneIntegrali,
-                                      char separatore) {
+                                      std::string_view separatore) {
     std::vector<RigaEffetto> righe;
     for (size_t i = 0; i < tabella.size() && tabella[i].Tipo != kNessuna; ++i) {
         righe.push_back(Riga(tabella[i], int(i) + 1, colonneIntegrali, separatore));
@@ -40,8 +38,7 @@ std::vector<RigaEffetto> RigheEffetto(const TabellaCondizioni& tabella, double c
 }
 
 std::vector<RigaEffetto> RigheEffetto(const TabellaCondizioni& tabella, double colonneIntegrali) {
-    const char separatore = std::use_facet<std::numpunct<char>>(std::locale()).thousands_sep();
-    return RigheEffetto(tabella, colonneIntegrali, separatore);
+    return RigheEffetto(tabella, colonneIntegrali, SeparatoreMigliaia());
 }
 
 }  // namespace combi

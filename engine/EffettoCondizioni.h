@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Condizione.h"
@@ -38,9 +39,9 @@ struct RigaEffetto {
 // Counts are grouped by `separatore`; percentages are of `colonneIntegrali`,
 // at most 100, and 0 when it is 0.
 std::vector<RigaEffetto> RigheEffetto(const TabellaCondizioni& tabella, double colonneIntegrali,
-                                      char separatore);
+                                      std::string_view separatore);
 
-// As above with the thousands separator of the global C++ locale.
+// As above with the user's thousands separator (SeparatoreMigliaia).
 std::vector<RigaEffetto> RigheEffetto(const TabellaCondizioni& tabella, double colonneIntegrali);
 
 }  // namespace combi

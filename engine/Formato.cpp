@@ -1,9 +1,18 @@
 #include "Formato.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <locale>
+#include <optional>
+#include <stdexcept>
+
+#if __has_include(<langinfo.h>)
+#include <langinfo.h>
+#include <locale.h>
+#endif
 
 #include "Errore.h"
 #include "LetturaNumero.h"
@@ -41,7 +50,7 @@ std::string UnisciIndici(const Sequenza& valori, int limiteInferiore, std::strin
 
 }  // namespace
 
-std::string FormatNumero(double valore, char separatore) {
+std::string FormatNumero(double valore, std::string_view separatore) {
     if (!std::isfinite(valore)) throw Errore(kErroreArgomento, "Numero non rappresentabile");
     const double arrotondato = std::round(valore);  // half away from zero, as a display format
     if (arrotondato == 0) return "0";
@@ -57,8 +66,64 @@ std::string FormatNumero(double valore, char separatore) {
     return testo;
 }
 
-std::string FormatNumero(double valore) {
-    return FormatNumero(valore, std::use_facet<std::numpunct<char>>(std::locale()).thousands_sep());
+std::string FormatNumero(double valore) { return FormatNumero(valore, SeparatoreMigliaia()); }
+
+std::string FormatDecimale(double valore, int cifre) {
+    if (!std::isfinite(valore)) throw Errore(kErroreArgomento, "Numero non rappresentabile");
+    if (cifre <= 0) return FormatNumero(valore);
+    const double scala = std::pow(10.0, cifre);
+    const double scalato = std::round(std::fabs(valore) * scala);
+    const double intera = std::floor(scalato / scala);
+    std::string frazione = std::to_string(static_cast<long long>(scalato - intera * scala));
+    frazione.insert(0, size_t(cifre) - std::min(frazione.size(), size_t(cifre)), '0');
+    const std::string segno = valore < 0 && scalato != 0 ? "-" : "";
+    return segno + FormatNumero(intera) + SeparatoriUtente().decimali + frazione;
+}
+
+namespace {
+
+bool LocaleClassico(std::string_view nome) {
+    return nome.empty() || nome == "C" || nome == "POSIX" || nome.substr(0, 2) == "C.";
+}
+
+// The separators a named locale writes; nullopt when this machine lacks it.
+std::optional<SeparatoriNumeri> SeparatoriDelLocale(const std::string& nome) {
+#if __has_include(<langinfo.h>)
+    locale_t locale = newlocale(LC_NUMERIC_MASK, nome.c_str(), locale_t(0));
+    if (locale == locale_t(0)) return std::nullopt;
+    SeparatoriNumeri s{nl_langinfo_l(THOUSEP, locale), nl_langinfo_l(RADIXCHAR, locale)};
+    freelocale(locale);
+    return s;
+#else
+    try {
+        const auto& punteggiatura = std::use_facet<std::numpunct<char>>(std::locale(nome));
+        return SeparatoriNumeri{std::string(1, punteggiatura.thousands_sep()),
+                                std::string(1, punteggiatura.decimal_point())};
+    } catch (const std::runtime_error&) {
+        return std::nullopt;
+    }
+#endif
+}
+
+}  // namespace
+
+SeparatoriNumeri SeparatoriDaAmbiente(const char* lcAll, const char* lcNumeric, const char* lang) {
+    const SeparatoriNumeri italiani{".", ","};
+    std::string nome;
+    for (const char* valore : {lcAll, lcNumeric, lang}) {
+        if (valore != nullptr && *valore != '\0') {
+            nome = valore;
+            break;
+        }
+    }
+    if (LocaleClassico(nome)) return italiani;
+    return SeparatoriDelLocale(nome).value_or(italiani);
+}
+
+const SeparatoriNumeri& SeparatoriUtente() {
+    static const SeparatoriNumeri separatori =
+        SeparatoriDaAmbiente(std::getenv("LC_ALL"), std::getenv("LC_NUMERIC"), std::getenv("LANG"));
+    return separatori;
 }
 
 // Division truncates like the original's, so a negative count (a clock that

@@ -17,10 +17,33 @@ namespace combi {
 
 // Value rounded half away from zero, thousands grouped by `separatore`, no
 // decimals; "0" for anything that rounds to zero. Throws Errore on NaN/inf.
-std::string FormatNumero(double valore, char separatore);
+std::string FormatNumero(double valore, std::string_view separatore);
 
-// As above with the thousands separator of the global C++ locale.
+// As above with the user's separator (SeparatoreMigliaia): the one format of
+// every count shown on screen, in reports and on the command line.
 std::string FormatNumero(double valore);
+
+// `valore` with `cifre` decimals after the user's decimal separator and its
+// thousands grouped as FormatNumero does ("12,50" in Italian).
+std::string FormatDecimale(double valore, int cifre);
+
+// The separators of the numbers the user reads.
+struct SeparatoriNumeri {
+    std::string migliaia;
+    std::string decimali;
+    bool operator==(const SeparatoriNumeri&) const = default;
+};
+
+// The separators of the locale the environment names for numbers: the first
+// non-empty of LC_ALL, LC_NUMERIC and LANG (null pointers count as unset).
+// A desktop that names none, or only the plain "C"/"POSIX" one (also
+// "C.UTF-8"), gets the Italian ones, "." and ","; so does a name that this
+// machine does not know.
+SeparatoriNumeri SeparatoriDaAmbiente(const char* lcAll, const char* lcNumeric, const char* lang);
+
+// The process's separators, read from the environment on first use.
+const SeparatoriNumeri& SeparatoriUtente();
+inline const std::string& SeparatoreMigliaia() { return SeparatoriUtente().migliaia; }
 
 // "hh:mm:ss", each part at least two digits, hours unbounded (360000 -> "100:00:00").
 std::string TempoTrascorso(int32_t secondi);

@@ -16,11 +16,22 @@ namespace combi {
 inline constexpr const char* kMsgNumeriDa1a90 = "Inserire numeri da 1 a 90";
 inline constexpr const char* kMsgMassimo20Numeri = "La colonna vincente deve contenere massimo 20 numeri";
 
-// The message that refuses the typed text, or "" when it can be checked. The
-// text is split at ","; every item must read (leading-number reading) as a
-// value above 0 and at most 90, so an empty or non-numeric item fails; 21 or
-// more items give the second message, which wins over the first. An empty
-// text has no item, so nothing refuses it: every column then scores 0.
+// The items of a typed draw. A ",", a ";" or a run of blanks separates two
+// numbers, and blanks around a "," or ";" belong to it: "3 12 24", "3,12,24",
+// "3; 12 ;24" all give three items. Two marks with nothing between them
+// ("5,,7", "5,") leave an empty item, which the check refuses. A text of
+// blanks only has no item.
+std::vector<std::string_view> VociEstrazione(std::string_view testo);
+
+// The value each item reads as (leading-number reading), in the order typed:
+// what the user is shown under the box. An empty item reads 0.
+std::vector<double> NumeriEstrazione(std::string_view testo);
+
+// The message that refuses the typed text, or "" when it can be checked.
+// Every item must read (leading-number reading) as a value above 0 and at
+// most 90, so an empty or non-numeric item fails; 21 or more items give the
+// second message, which wins over the first. An empty text has no item, so
+// nothing refuses it: every column then scores 0.
 std::string ControllaEstrazione(std::string_view testo);
 
 // One row of the "Vincite" list.

@@ -25,6 +25,7 @@
 #include "SegnalazioneErrori.h"
 #include "ServizioDialoghi.h"
 #include "TestiGrigliaQt.h"
+#include "UtilitaSchermo.h"
 
 namespace {
 
@@ -104,6 +105,7 @@ void F_Spoglio::CreaIntestazione(QVBoxLayout* colonna) {
     auto* riga = new QHBoxLayout;
     text1_ = new QLineEdit(this);
     text1_->setObjectName("Text1");
+    text1_->setPlaceholderText("per esempio 3 12 24 50 77");
     cmbPuntiMin_ = new QComboBox(this);
     cmbPuntiMin_->setObjectName("CmbPuntiMin");
     riga->addWidget(new QLabel("Numeri estratti", this));
@@ -111,6 +113,26 @@ void F_Spoglio::CreaIntestazione(QVBoxLayout* colonna) {
     riga->addWidget(new QLabel("Punti minimi", this));
     riga->addWidget(cmbPuntiMin_);
     colonna->addLayout(riga);
+    labNumeriLetti_ = new QLabel(this);
+    labNumeriLetti_->setObjectName("LabNumeriLetti");
+    colonna->addWidget(labNumeriLetti_);
+    connect(text1_, &QLineEdit::textChanged, this, &F_Spoglio::MostraNumeriLetti);
+    MostraNumeriLetti();
+}
+
+// What the check will read, as the user types: a number typed with blanks
+// between is seen as it is meant, and an item the check refuses shows as "?"
+// with the refusal beside it, before VERIFICA is pressed.
+void F_Spoglio::MostraNumeriLetti() {
+    const std::string testo = text1_->text().toStdString();
+    QStringList letti;
+    for (const double numero : combi::NumeriEstrazione(testo))
+        letti << (numero > 0 && numero <= combi::kMaxNumero ? QString::number(numero, 'g', 10) : QString("?"));
+    QString riga = "Numeri letti: " + (letti.isEmpty() ? QString("nessuno") : letti.join(' '));
+    const std::string messaggio = combi::ControllaEstrazione(testo);
+    if (!messaggio.empty()) riga += " \u2013 " + QString::fromStdString(messaggio);
+    labNumeriLetti_->setText(riga);
+    labNumeriLetti_->setStyleSheet(messaggio.empty() ? QString() : QString("color: #b00020;"));
 }
 
 void F_Spoglio::CreaPagine(QVBoxLayout* colonna) {
@@ -186,7 +208,7 @@ void F_Spoglio::MostraVincite(const combi::EsitoSpoglio& esito) {
 void F_Spoglio::MostraRiepilogo(const combi::EsitoSpoglio& esito) {
     listView3_->clear();
     for (const combi::RigaRiepilogo& r : esito.riepilogo)
-        listView3_->addTopLevelItem(CreaRiga({QString::fromStdString(r.vincita), QString::number(r.colonne)}));
+        listView3_->addTopLevelItem(CreaRiga({QString::fromStdString(r.vincita), TestoContatore(double(r.colonne))}));
 }
 
 void F_Spoglio::RiordinaVincite() {

@@ -12,6 +12,7 @@
 
 class CombiFiltroA;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QTabWidget;
@@ -38,6 +39,8 @@ public:
     int32_t OrdineOrdinamento() const { return ordineOrdinamento_; }
 
     QLineEdit* Text1() const { return text1_; }
+    // Under the draw box: the numbers as they were read ("Numeri letti: 3 12 24").
+    QLabel* LabNumeriLetti() const { return labNumeriLetti_; }
     QComboBox* CmbPuntiMin() const { return cmbPuntiMin_; }
     QPushButton* XPButton1(int indice) const { return pulsanti_[indice]; }
     QTabWidget* TabStrip1() const { return tabStrip1_; }
@@ -50,6 +53,7 @@ private:
     void CreaPagine(class QVBoxLayout* colonna);
     void CreaPulsanti(class QVBoxLayout* colonna);
     void RiempiPuntiMinimi();
+    void MostraNumeriLetti();
     void VerificaVincite();
     void ConfrontaCondizioni();
     void MostraVincite(const combi::EsitoSpoglio& esito);
@@ -59,6 +63,7 @@ private:
     CombiFiltroA& controllo_;
     ServizioDialoghi& dialoghi_;
     QLineEdit* text1_ = nullptr;
+    QLabel* labNumeriLetti_ = nullptr;
     QComboBox* cmbPuntiMin_ = nullptr;
     QPushButton* pulsanti_[2] = {};
     QTabWidget* tabStrip1_ = nullptr;

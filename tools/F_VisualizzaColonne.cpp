@@ -1,13 +1,27 @@
 #include "F_VisualizzaColonne.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QSlider>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <algorithm>
 
 #include "CombiFiltroA.h"
+#include "UtilitaSchermo.h"
+
+namespace {
+
+// One notch of an ordinary mouse wheel.
+constexpr int kAngoloScatto = 120;
+
+}  // namespace
 
 F_VisualizzaColonne::F_VisualizzaColonne(const CombiFiltroA& controllo, QWidget* genitore)
     : QDialog(genitore), controllo_(controllo) {
@@ -35,11 +49,17 @@ void F_VisualizzaColonne::CostruisciFinestra() {
     listView1_->setRootIsDecorated(false);
     listView1_->setUniformRowHeights(true);
     listView1_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    // A page is what fits: the slider, not the list, scrolls.
+    listView1_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     listView1_->setMinimumSize(420, 440);
+    listView1_->installEventFilter(this);
+    listView1_->viewport()->installEventFilter(this);
     colonna->addWidget(listView1_, 1);
 
     auto* riga = new QHBoxLayout;
-    riga->addStretch(1);
+    labPosizione_ = new QLabel(this);
+    labPosizione_->setObjectName("LabPosizione");
+    riga->addWidget(labPosizione_, 1);
     xpButton1_ = new QPushButton("CHIUDI", this);
     xpButton1_->setObjectName("XPButton1_0");
     xpButton1_->setAutoDefault(false);
@@ -56,13 +76,69 @@ void F_VisualizzaColonne::ImpostaCursore() {
     slider1_->setValue(1);
 }
 
+int F_VisualizzaColonne::RighePerPagina() const {
+    const QTreeWidgetItem* prima = listView1_->topLevelItem(0);
+    if (prima == nullptr || !listView1_->isVisible()) return kRighe;
+    const int altezza = listView1_->visualItemRect(prima).height();
+    return altezza > 0 ? std::max(kRighe, listView1_->viewport()->height() / altezza) : kRighe;
+}
+
 void F_VisualizzaColonne::Riempi() {
+    const int righe = RighePerPagina();
+    slider1_->setPageStep(righe);
     listView1_->clear();
     const int primo = slider1_->value();
-    for (int id = primo; id < primo + kRighe; ++id) {
+    for (int id = primo; id < primo + righe; ++id) {
         const QString numeri = controllo_.GetColonnaSviluppo(id);
         if (numeri.isEmpty()) continue;
         auto* voce = new QTreeWidgetItem(listView1_, {QString::number(id), numeri});
         voce->setTextAlignment(0, Qt::AlignRight | Qt::AlignVCenter);
     }
+    const int quante = controllo_.QuantitaColonne();
+    labPosizione_->setText(quante == 0 ? QString("Nessuna colonna")
+                                       : QString("colonna %1 di %2").arg(TestoContatore(primo), TestoContatore(quante)));
+}
+
+void F_VisualizzaColonne::resizeEvent(QResizeEvent* evento) {
+    QDialog::resizeEvent(evento);
+    Riempi();
+}
+
+void F_VisualizzaColonne::showEvent(QShowEvent* evento) {
+    QDialog::showEvent(evento);
+    Riempi();
+}
+
+bool F_VisualizzaColonne::eventFilter(QObject* oggetto, QEvent* evento) {
+    if (oggetto == listView1_->viewport() && evento->type() == QEvent::Wheel)
+        return Rotella(static_cast<QWheelEvent*>(evento));
+    if (oggetto == listView1_ && evento->type() == QEvent::KeyPress) return Tasto(static_cast<QKeyEvent*>(evento));
+    return QDialog::eventFilter(oggetto, evento);
+}
+
+// Each notch moves by the desktop's wheel lines (3 by default); a touchpad's
+// small angles add up until they make a whole notch.
+bool F_VisualizzaColonne::Rotella(QWheelEvent* evento) {
+    rotellaResidua_ += evento->angleDelta().y();
+    const int scatti = rotellaResidua_ / kAngoloScatto;
+    rotellaResidua_ -= scatti * kAngoloScatto;
+    if (scatti != 0) slider1_->setValue(slider1_->value() - scatti * QApplication::wheelScrollLines());
+    evento->accept();
+    return true;
+}
+
+bool F_VisualizzaColonne::Tasto(QKeyEvent* evento) {
+    const int pagina = RighePerPagina();
+    int destinazione = slider1_->value();
+    switch (evento->key()) {
+        case Qt::Key_Down: destinazione += 1; break;
+        case Qt::Key_Up: destinazione -= 1; break;
+        case Qt::Key_PageDown: destinazione += pagina; break;
+        case Qt::Key_PageUp: destinazione -= pagina; break;
+        case Qt::Key_Home: destinazione = slider1_->minimum(); break;
+        case Qt::Key_End: destinazione = std::max(slider1_->minimum(), slider1_->maximum() - pagina + 1); break;
+        default: return false;
+    }
+    slider1_->setValue(destinazione);
+    return true;
 }

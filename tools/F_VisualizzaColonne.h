@@ -1,11 +1,14 @@
 #pragma once
-// "Colonne condizionate": the control's kept columns, 21 at a time. The
+// "Colonne condizionate": the control's kept columns, a page at a time. The
 // slider holds the number of the first column shown; the list shows that
-// column and the next 20 that exist.
+// column and the following ones that exist: 21, or as many as the window
+// has room for when it is made taller. The mouse wheel and the keys page
+// through the columns as the slider does, and a line tells where the page is.
 
 #include <QDialog>
 
 class CombiFiltroA;
+class QLabel;
 class QPushButton;
 class QSlider;
 class QTreeWidget;
@@ -21,17 +24,30 @@ public:
 
     // The list from the slider's position on.
     void Riempi();
+    // Rows of one page: kRighe, or more when the list has room for them.
+    int RighePerPagina() const;
 
     QSlider* Slider1() const { return slider1_; }
     QTreeWidget* ListView1() const { return listView1_; }
     QPushButton* XPButton1() const { return xpButton1_; }
+    // "colonna i di N": the first column shown and how many there are.
+    QLabel* LabPosizione() const { return labPosizione_; }
+
+protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
 
 private:
     void CostruisciFinestra();
     void ImpostaCursore();
+    bool Rotella(class QWheelEvent* evento);
+    bool Tasto(class QKeyEvent* evento);
 
     const CombiFiltroA& controllo_;
     QSlider* slider1_ = nullptr;
     QTreeWidget* listView1_ = nullptr;
+    QLabel* labPosizione_ = nullptr;
     QPushButton* xpButton1_ = nullptr;
+    int rotellaResidua_ = 0;  // wheel angle not yet turned into whole steps
 };

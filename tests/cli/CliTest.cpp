@@ -13,6 +13,7 @@
 #include "DecodificaCondizioni.h"
 #include "FileBinario.h"
 #include "FileSistema.h"
+#include "Formato.h"
 #include "Sviluppo.h"
 
 namespace combi {
@@ -155,13 +156,20 @@ TEST_F(CliTest, BadArgumentsAndHostileFilesGiveAMessageNotACrash) {
     EXPECT_FALSE(fs::exists(P("x.col")));
 }
 
+// The separator the process groups thousands with, in place of each "'".
+std::string Migliaia(std::string testo) {
+    for (size_t i = testo.find('\''); i != std::string::npos; i = testo.find('\'', i))
+        testo.replace(i, 1, SeparatoreMigliaia());
+    return testo;
+}
+
 // The progress line worked out by hand: 2,500,000 of 10,000,000 columns in
 // 2 s is 25 % at 1,250,000 columns a second, 6 s to go.
 TEST(Terminale, ProgressLineShowsShareSpeedAndTimeLeft) {
     EXPECT_EQ(cli::OsservatoreTerminale::Riga(2'500'000, 100'000, 10'000'000, 2.0),
-              "25 %   Sviluppate : 2,500,000   Condizionate : 100,000   1,250,000 colonne/s   mancano 00:00:06");
+              Migliaia("25 %   Sviluppate : 2'500'000   Condizionate : 100'000   1'250'000 colonne/s   mancano 00:00:06"));
     EXPECT_EQ(cli::OsservatoreTerminale::Riga(9'999'999, 3, 10'000'000, 1.0),
-              "99 %   Sviluppate : 9,999,999   Condizionate : 3   9,999,999 colonne/s   mancano 00:00:01");
+              Migliaia("99 %   Sviluppate : 9'999'999   Condizionate : 3   9'999'999 colonne/s   mancano 00:00:01"));
     EXPECT_EQ(cli::OsservatoreTerminale::Riga(0, 0, 10, 0.0), "0 %   Sviluppate : 0   Condizionate : 0");
     // Off a terminal nothing is drawn, whatever the counts.
     std::ostringstream err;

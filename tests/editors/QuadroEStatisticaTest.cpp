@@ -1,14 +1,20 @@
 // The recovery panel dialog, the statistics preview and the screenshots.
 #include <QAbstractButton>
 #include <QDir>
+#include <QPainter>
+#include <QPixmap>
 #include <QLabel>
+#include <QProgressBar>
+#include <QtCharts/QCategoryAxis>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
 
 #include "AiutiEditori.h"
 #include "Condizione.h"
-#include "DistribuzioneMisura.h"
+#include "Formato.h"
+#include "GraficoBarre.h"
+#include "ScalaGrafico.h"
 #include "Errore.h"
 #include "F_QuadroRecuperi.h"
 #include "F_Statistica.h"
@@ -22,6 +28,9 @@ combi::TestiGriglia Griglia(std::vector<std::string> quadriCondizioni, std::vect
     g.quadri = righe;
     return g;
 }
+
+QString Migliaia() { return QString::fromStdString(combi::SeparatoriUtente().migliaia); }
+QString Decimali() { return QString::fromStdString(combi::SeparatoriUtente().decimali); }
 
 }  // namespace
 
@@ -69,26 +78,6 @@ TEST(QuadroRecuperi, LeCaselleAccettanoSoloCifreEVirgola) {
     EXPECT_EQ(d.TxtMin(3)->text(), "12,3");
 }
 
-TEST(Statistica, DistribuzioneDellaMisuraSulleColonneIntegrali) {
-    combi::Condizione posizione1;
-    posizione1.Tipo = combi::kPosizioni;
-    posizione1.Parametro = 1;
-    DistribuzioneMisura d(posizione1, {1, 2, 3, 4}, 2);
-    EXPECT_TRUE(d.Avanza(4));
-    EXPECT_EQ(d.Misurate(), 4u);
-    EXPECT_FALSE(d.Avanza(4));
-    EXPECT_EQ(d.Misurate(), 6u);
-    EXPECT_EQ(d.Conteggi(), (std::map<int32_t, uint64_t>{{1, 3}, {2, 2}, {3, 1}}));
-    // Slices add up to the whole system whatever their size.
-    DistribuzioneMisura grande(posizione1, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, 5);
-    while (grande.Avanza(100)) {}
-    uint64_t somma = 0;
-    for (const auto& [v, n] : grande.Conteggi()) somma += n;
-    EXPECT_EQ(somma, 792u);
-    EXPECT_EQ(grande.Conteggi().at(8), 1u);  // only 8-9-10-11-12
-    EXPECT_THROW(DistribuzioneMisura(posizione1, {1, 2}, 3), combi::Errore);
-}
-
 TEST(Statistica, IlPulsanteApreLAnteprimaSenzaToccareLEditore) {
     FakeDialoghi dialoghi;
     ContestoEditore contesto{5, {}, 1, &dialoghi};
@@ -98,15 +87,22 @@ TEST(Statistica, IlPulsanteApreLAnteprimaSenzaToccareLEditore) {
     Clic(*e, "XPButton1_2");
     auto* anteprima = e->findChild<F_Statistica*>();
     ASSERT_NE(anteprima, nullptr);
-    EXPECT_FALSE(anteprima->Finita());  // counted on the event loop, not at once
-    EXPECT_TRUE(anteprima->findChild<QLabel*>("LabIntestazione")->text().contains("codice statistica 11 - gioco 2"));
+    EXPECT_FALSE(anteprima->Finita());  // counted off the user-interface thread
+    EXPECT_EQ(anteprima->findChild<QLabel*>("LabIntestazione")->text(),
+              "Distribuzione di Numero in posizione 2 \u2013 10ELotto, classe 5");
+    EXPECT_EQ(anteprima->CodiceStatistica(), 11);
+    EXPECT_EQ(anteprima->CodiceGioco(), 2);
     QSignalSpy completata(anteprima, &F_Statistica::Completata);
     ASSERT_TRUE(completata.wait(20000));
-    EXPECT_EQ(anteprima->Distribuzione()->Misurate(), 142506u);
+    uint64_t totale = 0;
+    for (const auto& [valore, quante] : anteprima->Distribuzione()) totale += quante;
+    EXPECT_EQ(totale, 142506u);  // C(30, 5)
     auto* tabella = anteprima->findChild<QTableWidget*>("TabDistribuzione");
     EXPECT_EQ(tabella->rowCount(), 26);  // position 2 holds 2..27
     EXPECT_EQ(tabella->item(0, 0)->text(), "2");
-    EXPECT_EQ(tabella->item(0, 1)->text(), "3276");  // 1-2-x-x-x: C(28,3)
+    EXPECT_EQ(tabella->item(0, 1)->text(), "3" + Migliaia() + "276");  // 1-2-x-x-x: C(28,3)
+    EXPECT_EQ(tabella->item(0, 2)->text(), "2" + Decimali() + "30");    // 3276 / 142506
+    EXPECT_FALSE(anteprima->findChild<QProgressBar*>("BarraAvanzamento")->isVisibleTo(anteprima));
     EXPECT_TRUE(e->Tag().isEmpty());
     EXPECT_TRUE(Messaggi(dialoghi).isEmpty());
     // Too few numbers: reported, no preview, the editor stays.
@@ -116,8 +112,104 @@ TEST(Statistica, IlPulsanteApreLAnteprimaSenzaToccareLEditore) {
     EXPECT_EQ(Messaggi(dialoghi), QStringList{"Impostare il pronostico"});
 }
 
+// The accepted values are told apart: the line under the chart counts the
+// columns of the values ticked in the editor (here Pari-Dispari "Pari" with
+// 2 or 3 even numbers among 1..10 in class 5: C(5,2)C(5,3) + C(5,3)C(5,2)).
+TEST(Statistica, LeColonneAccettateSonoQuelleDeiValoriSpuntati) {
+    FakeDialoghi dialoghi;
+    auto e = Editore(combi::kPariDispari, dialoghi);
+    Clic(*e, "ChkPunti_2"), Clic(*e, "ChkPunti_3");
+    Clic(*e, "XPButton1_2");
+    auto* anteprima = e->findChild<F_Statistica*>();
+    ASSERT_NE(anteprima, nullptr);
+    QSignalSpy completata(anteprima, &F_Statistica::Completata);
+    ASSERT_TRUE(completata.wait(20000));
+    EXPECT_EQ(anteprima->findChild<QLabel*>("LabAccettate")->text(),
+              "Valori accettati (in verde): 200 colonne, 79" + Decimali() + "37 % delle integrali.");
+}
+
+// "Annulla" stops a count that is still running: the largest one there is,
+// class 20 over the 90 numbers, follows parity patterns for a good while.
+TEST(Statistica, AnnullaFermaIlConteggio) {
+    FakeDialoghi dialoghi;
+    std::vector<int> tutti;
+    for (int n = 1; n <= 90; ++n) tutti.push_back(n);
+    auto e = Editore(combi::kVortice, dialoghi, 20, tutti);
+    Clic(*e, "XPButton1_2");
+    auto* anteprima = e->findChild<F_Statistica*>();
+    ASSERT_NE(anteprima, nullptr);
+    QSignalSpy annullata(anteprima, &F_Statistica::Annullata);
+    Clic(*anteprima, "Annulla");
+    ASSERT_TRUE(annullata.wait(20000));
+    EXPECT_FALSE(anteprima->Finita());
+    EXPECT_EQ(anteprima->findChild<QLabel*>("LabAvanzamento")->text(), "Conteggio annullato.");
+    EXPECT_EQ(anteprima->findChild<QTableWidget*>("TabDistribuzione")->rowCount(), 0);
+    // Closing a preview whose count runs stops it too (no crash, no report).
+    Clic(*e, "XPButton1_2");
+    auto anteprime = e->findChildren<F_Statistica*>();
+    ASSERT_EQ(anteprime.size(), 2);
+    delete anteprime.back();
+}
+
+// Round ticks at any range, worked out by hand: the step is 1, 2 or 5 times
+// a power of ten just above range / (ticks - 1).
+TEST(Statistica, ScaleRotonde) {
+    struct Caso { double minimo, massimo; int tacche; bool interi; double passo, primo, ultimo; };
+    const Caso casi[] = {
+        {0, 10, 6, true, 2, 0, 10},
+        {3.6, 89.4, 10, true, 10, 0, 90},        // Ampiezza of class 5
+        {-0.4, 3.4, 10, true, 1, -1, 4},         // a few point values: whole steps
+        {149.6, 400.4, 8, true, 50, 100, 450},   // Peso
+        {0, 142506, 6, false, 50000, 0, 150000},
+        {0, 5720645481903, 6, false, 2e12, 0, 6e12},
+        {7, 7, 5, true, 1, 7, 8},                // one value only
+    };
+    for (const Caso& c : casi) {
+        const scala::Scala s = scala::ScalaRotonda(c.minimo, c.massimo, c.tacche, c.interi);
+        EXPECT_DOUBLE_EQ(s.passo, c.passo) << c.minimo << ".." << c.massimo;
+        EXPECT_DOUBLE_EQ(s.primo, c.primo) << c.minimo << ".." << c.massimo;
+        EXPECT_DOUBLE_EQ(s.ultimo, c.ultimo) << c.minimo << ".." << c.massimo;
+    }
+}
+
+// The chart's axes carry grouped round labels; pointing at a bar tells it.
+TEST(Statistica, IlGraficoHaTaccheLeggibiliEDiceIlValoreIndicato) {
+    GraficoBarre grafico;
+    grafico.resize(640, 360);
+    const combi::Distribuzione d{{150, 1000}, {200, 1234}, {400, 1198766}};
+    grafico.ImpostaDati(d, "Peso", [](int32_t v) { return v == 200; });
+    const QString m = Migliaia();
+    // 0..1,198,766 in about 6 ticks: steps of 500,000.
+    EXPECT_EQ(grafico.AsseY()->categoriesLabels(),
+              (QStringList{"0", "500" + m + "000", "1" + m + "000" + m + "000", "1" + m + "500" + m + "000"}));
+    const QStringList x = grafico.AsseX()->categoriesLabels();
+    ASSERT_GE(x.size(), 3);
+    ASSERT_LE(x.size(), 12);
+    double precedente = 0;
+    for (const QString& etichetta : x) {
+        const double valore = QString(etichetta).remove(m).toDouble();
+        EXPECT_GE(valore, 150) << etichetta.toStdString();
+        EXPECT_LE(valore, 400) << etichetta.toStdString();
+        EXPECT_GT(valore, precedente);
+        precedente = valore;
+    }
+    QSignalSpy indicato(&grafico, &GraficoBarre::ValoreIndicato);
+    grafico.Indica(QPointF(199.7, 500), true);
+    ASSERT_EQ(indicato.size(), 1);
+    // 1234 of 1,201,000 columns: 0.1027...%.
+    EXPECT_EQ(indicato[0][0].toString(), "Peso 200: 1" + m + "234 colonne (0" + Decimali() + "10 %)");
+    grafico.Indica(QPointF(300, 10), true);  // no column has 300
+    EXPECT_TRUE(indicato[1][0].toString().isEmpty());
+    // A value is written as the editor's boxes take it, a count grouped.
+    grafico.ImpostaDati({{1050, 2500}}, "Peso", {});
+    grafico.Indica(QPointF(1050.2, 1), true);
+    EXPECT_EQ(indicato[2][0].toString(), "Peso 1050: 2" + m + "500 colonne (100" + Decimali() + "00 %)");
+    EXPECT_TRUE(grafico.AsseX()->categoriesLabels().contains("1050"));
+}
+
 // Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-editori.sh)
-// it saves pictures of a few editors and of the preview.
+// it saves pictures of a few editors, of the preview, and of an editor beside
+// its chart ("editore-grafico.png", the README's picture).
 TEST(Screenshot, SalvaImmaginiDegliEditori) {
     const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
     if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
@@ -138,13 +230,31 @@ TEST(Screenshot, SalvaImmaginiDegliEditori) {
     auto sequenze = CreaEditore(combi::kSequenze, contesto);
     Clic(*sequenze, "Command1_0"), Clic(*sequenze, "Command1_1"), Clic(*sequenze, "ChkPunti_1");
     salva(*sequenze, "sequenze");
-    Clic(*ampiezza, "XPButton1_2");
-    auto* anteprima = ampiezza->findChild<F_Statistica*>();
-    ASSERT_NE(anteprima, nullptr);
-    QSignalSpy completata(anteprima, &F_Statistica::Completata);
-    completata.wait(20000);
-    salva(*anteprima, "statistica");
     F_QuadroRecuperi quadro;
     quadro.LeggiRecuperiInseriti(Griglia({"3", "3", "7"}, {"", "", "1,2,-1"}));
     salva(quadro, "quadro-recuperi");
+
+    // Peso over 30 numbers in class 5, values 150..250 accepted.
+    ContestoEditore sistema{5, {}, 0, &dialoghi};
+    for (int n = 3; n <= 90; n += 3) sistema.numeriSelezionati.push_back(n);
+    auto peso = CreaEditore(combi::kPeso, sistema);
+    for (int p = 1; p <= 5; ++p) Clic(*peso, QString("ChkCaselle_%1").arg(p));
+    Scrivi(*peso, "TxtPunti_0", "150"), Scrivi(*peso, "TxtPunti_1", "250");
+    Clic(*peso, "XPButton1_2");
+    auto* anteprima = peso->findChild<F_Statistica*>();
+    ASSERT_NE(anteprima, nullptr);
+    QSignalSpy completata(anteprima, &F_Statistica::Completata);
+    ASSERT_TRUE(completata.wait(20000));
+    anteprima->findChild<GraficoBarre*>()->Indica(QPointF(231, 100), true);  // as the mouse on a bar
+    salva(*anteprima, "statistica");
+    peso->show();
+    QTest::qWait(100);
+    const QPixmap editore = peso->grab(), grafico = anteprima->grab();
+    QPixmap insieme(editore.width() + 16 + grafico.width(), std::max(editore.height(), grafico.height()));
+    insieme.fill(QColor(225, 225, 225));
+    QPainter pittore(&insieme);
+    pittore.drawPixmap(0, 0, editore);
+    pittore.drawPixmap(editore.width() + 16, 0, grafico);
+    pittore.end();
+    EXPECT_TRUE(insieme.save(cartella + "/editore-grafico.png"));
 }

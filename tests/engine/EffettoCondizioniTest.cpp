@@ -26,7 +26,7 @@ TEST(EffettoCondizioni, RowsCountsAndPercentages) {
         Con(kNessuna, 5, 5, 5),   // ends the report
         Con(kPonte, 1, 1, 1),
     };
-    const auto righe = RigheEffetto(tabella, 252, '.');
+    const auto righe = RigheEffetto(tabella, 252, ".");
     ASSERT_EQ(righe.size(), 5u);
     const Testi attese[] = {
         {"1", "Consecutivi", "6", "2", "246", "97", "0", "0"},
@@ -42,23 +42,23 @@ TEST(EffettoCondizioni, RowsCountsAndPercentages) {
 }
 
 TEST(EffettoCondizioni, EdgeTablesAndTotals) {
-    EXPECT_TRUE(RigheEffetto({Con(kNessuna, 0, 0, 0)}, 252, '.').empty()) << "no conditions";
-    EXPECT_TRUE(RigheEffetto({}, 252, '.').empty());
+    EXPECT_TRUE(RigheEffetto({Con(kNessuna, 0, 0, 0)}, 252, ".").empty()) << "no conditions";
+    EXPECT_TRUE(RigheEffetto({}, 252, ".").empty());
 
-    const auto zero = RigheEffetto({Con(kAmpiezza, 7, 3, 2)}, 0, '.');
+    const auto zero = RigheEffetto({Con(kAmpiezza, 7, 3, 2)}, 0, ".");
     ASSERT_EQ(zero.size(), 1u);
     EXPECT_EQ(zero[0].testi[kEffettoPercSuperate], "0") << "an empty integral system gives 0";
     EXPECT_EQ(zero[0].testi[kEffettoPercScartate], "0");
 
     // C(90, 5): counts of millions grouped by the given separator.
-    const auto grandi = RigheEffetto({Con(kResto, 1234567, 42715701, 43949268)}, 43949268, '.');
+    const auto grandi = RigheEffetto({Con(kResto, 1234567, 42715701, 43949268)}, 43949268, ".");
     ASSERT_EQ(grandi.size(), 1u);
     EXPECT_EQ(grandi[0].testi[kEffettoSuperate], "1.234.567");
     EXPECT_EQ(grandi[0].testi[kEffettoPercSuperate], "2");
     EXPECT_EQ(grandi[0].testi[kEffettoScartate], "42.715.701");
     EXPECT_EQ(grandi[0].testi[kEffettoPercScartate], "97");
     EXPECT_EQ(grandi[0].testi[kEffettoPercRecuperate], "100");
-    EXPECT_EQ(RigheEffetto({Con(kResto, 1234567, 0, 0)}, 1e7, ',')[0].testi[kEffettoSuperate], "1,234,567");
+    EXPECT_EQ(RigheEffetto({Con(kResto, 1234567, 0, 0)}, 1e7, ",")[0].testi[kEffettoSuperate], "1,234,567");
 }
 
 }  // namespace

@@ -124,21 +124,50 @@ TEST_F(KillFileTest, FailureIsReportedOnceAndAnswersFalse) {
 }
 
 TEST(Utilita, FormatNumeroGroupsThousands) {
-    struct Caso { double valore; char separatore; const char* atteso; };
+    struct Caso { double valore; const char* separatore; const char* atteso; };
     const Caso casi[] = {
-        {0, ',', "0"}, {1200000, ',', "1,200,000"}, {1200000, '.', "1.200.000"}, {999, '.', "999"},
-        {1000, '.', "1.000"}, {-1234567, ',', "-1,234,567"}, {-999, ',', "-999"}, {2.5, ',', "3"},
-        {-2.5, ',', "-3"}, {0.4, ',', "0"}, {-0.4, ',', "0"}, {123456.49, '.', "123.456"},
-        {1e21, ',', "1,000,000,000,000,000,000,000"}, {622614630, '.', "622.614.630"},
+        {0, ",", "0"}, {1200000, ",", "1,200,000"}, {1200000, ".", "1.200.000"}, {999, ".", "999"},
+        {1000, ".", "1.000"}, {-1234567, ",", "-1,234,567"}, {-999, ",", "-999"}, {2.5, ",", "3"},
+        {-2.5, ",", "-3"}, {0.4, ",", "0"}, {-0.4, ",", "0"}, {123456.49, ".", "123.456"},
+        {1e21, ",", "1,000,000,000,000,000,000,000"}, {622614630, ".", "622.614.630"},
+        {15504, "\u202f", "15\u202f504"},  // a separator of several bytes (French)
     };
     for (const Caso& c : casi) EXPECT_EQ(FormatNumero(c.valore, c.separatore), c.atteso) << c.valore;
-    EXPECT_THROW(FormatNumero(std::numeric_limits<double>::infinity(), ','), Errore);
+    EXPECT_THROW(FormatNumero(std::numeric_limits<double>::infinity(), ","), Errore);
+    // Decimals use the user's separators, whatever they are in this process.
+    const std::string m = SeparatoriUtente().migliaia, d = SeparatoriUtente().decimali;
+    EXPECT_EQ(FormatDecimale(1234.5, 2), "1" + m + "234" + d + "50");
+    EXPECT_EQ(FormatDecimale(0.004, 2), "0" + d + "00");
+    EXPECT_EQ(FormatDecimale(-0.006, 2), "-0" + d + "01");
+    EXPECT_EQ(FormatDecimale(99.999, 2), "100" + d + "00");
+    EXPECT_EQ(FormatDecimale(1500000, 0), "1" + m + "500" + m + "000");
+}
 
-    struct Punto : std::numpunct<char> { char do_thousands_sep() const override { return '.'; } };
-    EXPECT_EQ(FormatNumero(3500), "3,500");  // classic locale
-    const std::locale vecchio = std::locale::global(std::locale(std::locale::classic(), new Punto));
-    EXPECT_EQ(FormatNumero(3500), "3.500");
-    std::locale::global(vecchio);
+// The locale named by the environment decides; with none (or the plain C
+// one) the numbers are written the Italian way. Needs the it_IT and en_US
+// locales, which scripts/dipendenze.sh generates.
+TEST(Utilita, SeparatorsComeFromTheEnvironmentWithItalianAsDefault) {
+    struct Caso { const char* lcAll; const char* lcNumeric; const char* lang; SeparatoriNumeri attesi; };
+    const SeparatoriNumeri it{".", ","}, en{",", "."};
+    const Caso casi[] = {
+        {nullptr, nullptr, nullptr, it},
+        {"", "", "", it},
+        {nullptr, nullptr, "C", it},
+        {nullptr, nullptr, "POSIX", it},
+        {nullptr, nullptr, "C.UTF-8", it},
+        {nullptr, nullptr, "it_IT.UTF-8", it},
+        {nullptr, nullptr, "en_US.UTF-8", en},
+        {nullptr, "en_US.UTF-8", "it_IT.UTF-8", en},  // LC_NUMERIC before LANG
+        {"C", "en_US.UTF-8", nullptr, it},            // LC_ALL before both
+        {"en_US.UTF-8", "C", "it_IT.UTF-8", en},
+        {"", "", "en_US.UTF-8", en},                  // empty counts as unset
+        {nullptr, nullptr, "xx_YY.UTF-8", it},        // unknown here
+    };
+    for (const Caso& c : casi) {
+        const std::string nome = std::string(c.lcAll ? c.lcAll : "-") + "/" + (c.lcNumeric ? c.lcNumeric : "-") +
+                                 "/" + (c.lang ? c.lang : "-");
+        EXPECT_EQ(SeparatoriDaAmbiente(c.lcAll, c.lcNumeric, c.lang), c.attesi) << nome;
+    }
 }
 
 TEST(Utilita, TempoTrascorsoIsHoursMinutesSeconds) {

@@ -25,6 +25,12 @@ TEST(Spoglio, DrawnNumbersAreCheckedBeforeTheCount) {
     const Caso casi[] = {
         {"5,12,90", ""},
         {" 5, 12 ,90", ""},
+        {"3 12 24 50 77", ""},
+        {"3;12; 24 ;50", ""},
+        {"3 12 91", kMsgNumeriDa1a90},
+        {"5;;7", kMsgNumeriDa1a90},
+        {"5 ;, 7", kMsgNumeriDa1a90},
+        {"   ", ""},
         {"0,5", kMsgNumeriDa1a90},
         {"5,91", kMsgNumeriDa1a90},
         {"-1", kMsgNumeriDa1a90},
@@ -35,10 +41,35 @@ TEST(Spoglio, DrawnNumbersAreCheckedBeforeTheCount) {
         {Elenco(1, 20), ""},
         {Elenco(1, 21), kMsgMassimo20Numeri},
         {Elenco(1, 20, ",0"), kMsgMassimo20Numeri},  // the count message wins
+        {"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21", kMsgMassimo20Numeri},
     };
     for (const Caso& c : casi) EXPECT_EQ(ControllaEstrazione(c.testo), c.messaggio) << "\"" << c.testo << "\"";
     EXPECT_THROW(VerificaVincite({}, 6, "5,91", 2), Errore);
     EXPECT_THROW(EstrazioneComeColonna(Elenco(1, 21)), Errore);
+}
+
+TEST(Spoglio, BlanksSemicolonsAndCommasSeparateTheDrawnNumbers) {
+    using V = std::vector<std::string_view>;
+    struct Caso { const char* testo; V voci; };
+    const Caso casi[] = {
+        {"3 12 24 50 77", {"3", "12", "24", "50", "77"}},
+        {"3,12,24", {"3", "12", "24"}},
+        {"  3\t12   24  ", {"3", "12", "24"}},
+        {"3 ; 12,24", {"3", "12", "24"}},
+        {"3 , 12 ;  24 50", {"3", "12", "24", "50"}},
+        {"5,,7", {"5", "", "7"}},
+        {"5 ; ;7", {"5", "", "7"}},
+        {"5,", {"5", ""}},
+        {";5", {"", "5"}},
+        {"", {}},
+        {" \t ", {}},
+        {"5x 7", {"5x", "7"}},
+    };
+    for (const Caso& c : casi) EXPECT_EQ(VociEstrazione(c.testo), c.voci) << "\"" << c.testo << "\"";
+    EXPECT_EQ(NumeriEstrazione("3 12,, 5.5"), (std::vector<double>{3, 12, 0, 5.5}));
+    Colonna attesa;
+    attesa[1] = 77, attesa[2] = 3, attesa[3] = 12;
+    EXPECT_EQ(EstrazioneComeColonna("77 3;12"), attesa);
 }
 
 TEST(Spoglio, ColumnsScoreEachPositionOnce) {
@@ -49,7 +80,7 @@ TEST(Spoglio, ColumnsScoreEachPositionOnce) {
         Col({7, 8, 9, 10, 11, 13}),     // none
         Col({1, 2, 3, 4, 6, 7, 5}),     // 5 sits beyond class 6
     };
-    for (const char* estrazione : {"5,12,90", "5,5,12,90,12", "90,12,5"}) {
+    for (const char* estrazione : {"5,12,90", "5,5,12,90,12", "90,12,5", "5 12 90", "90; 12 ;5"}) {
         const EsitoSpoglio e = VerificaVincite(colonne, 6, estrazione, 2);
         EXPECT_EQ(e.vincite, (std::vector<RigaVincita>{{2, "05 12 20 30 40 90", 3}, {3, "12 13 14 15 16 90", 2}}));
         EXPECT_EQ(e.contatori[0], 2);

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -159,6 +160,16 @@ TEST(F_Spoglio, OnlyColumnsWithEnoughPointsAreListed) {
          {{"1", "05 12 30 40 50", "2"}, {"2", "01 02 03 05 90", "2"}, {"3", "05 12 20 60 90", "3"}},
          {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "1"},
           {"Vincite con 2 punti ", "2"}}},
+        {"blanks between the numbers, as a player types them",
+         {Col({5, 12, 30, 40, 50}), Col({1, 2, 3, 5, 90}), Col({5, 12, 20, 60, 90}), Col({12, 13, 14, 15, 16})},
+         0, " 5  12 90 ", "2",
+         {{"1", "05 12 30 40 50", "2"}, {"2", "01 02 03 05 90", "2"}, {"3", "05 12 20 60 90", "3"}},
+         {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "1"},
+          {"Vincite con 2 punti ", "2"}}},
+        {"semicolons and commas mixed", {Col({5, 12, 30, 40, 50}), Col({12, 13, 14, 15, 16})}, 0, "90;12 , 5", "2",
+         {{"1", "05 12 30 40 50", "2"}},
+         {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "0"},
+          {"Vincite con 2 punti ", "1"}}},
         {"empty draw: checked all the same", {Col({1, 2, 3, 4, 5}), Col({6, 7, 8, 9, 10})}, 0, "", "1", {},
          {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "0"},
           {"Vincite con 2 punti ", "0"}, {"Vincite con 1 punti ", "0"}}},
@@ -225,6 +236,30 @@ TEST(F_Spoglio, WrongDrawsAreRefusedAndTheListsKept) {
                                                               {"Vincite con 3 punti ", "0"},
                                                               {"Vincite con 2 punti ", "0"},
                                                               {"Vincite con 1 punti ", "0"}}));
+}
+
+// The line under the box follows the typing and shows the numbers as the
+// check will read them; a refused draw shows why, before VERIFICA.
+TEST(F_Spoglio, TheNumbersReadAreShownUnderTheBox) {
+    Banco b;
+    F_Spoglio f(b.c, b.dialoghi);
+    const struct {
+        QString testo, riga;
+    } casi[] = {
+        {"", "Numeri letti: nessuno"},
+        {"3 12 24 50 77", "Numeri letti: 3 12 24 50 77"},
+        {"3,12;24  50 ;77", "Numeri letti: 3 12 24 50 77"},
+        {"3 12 91", "Numeri letti: 3 12 ? \u2013 Inserire numeri da 1 a 90"},
+        {"5,,7", "Numeri letti: 5 ? 7 \u2013 Inserire numeri da 1 a 90"},
+        {"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21",
+         "Numeri letti: 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 \u2013 "
+         "La colonna vincente deve contenere massimo 20 numeri"},
+    };
+    for (const auto& caso : casi) {
+        f.Text1()->clear();
+        QTest::keyClicks(f.Text1(), caso.testo);
+        EXPECT_EQ(f.LabNumeriLetti()->text(), caso.riga) << caso.testo.toStdString();
+    }
 }
 
 TEST(F_Spoglio, AFailingCheckIsReportedAsCritical) {

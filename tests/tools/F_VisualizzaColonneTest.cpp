@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLabel>
+#include <QWheelEvent>
 #include <QPushButton>
 #include <QSlider>
 #include <QTest>
@@ -11,6 +13,7 @@
 #include "../control/Banco.h"
 #include "CollegaStrumenti.h"
 #include "F_VisualizzaColonne.h"
+#include "Formato.h"
 
 namespace {
 
@@ -92,6 +95,66 @@ TEST(F_VisualizzaColonne, FollowsTheSliderWhileDraggedAndShowsTheColumnTexts) {
     f.show();
     f.XPButton1()->click();
     EXPECT_FALSE(f.isVisible());
+}
+
+void Rotella(F_VisualizzaColonne& f, int angolo) {
+    QWidget* v = f.ListView1()->viewport();
+    const QPointF centro(v->width() / 2.0, v->height() / 2.0);
+    QWheelEvent evento(centro, v->mapToGlobal(centro), QPoint(), QPoint(0, angolo), Qt::NoButton, Qt::NoModifier,
+                       Qt::NoScrollPhase, false);
+    QApplication::sendEvent(v, &evento);
+}
+
+// The wheel and the keys page as the slider does; the line under the list
+// says where the page starts, with the count grouped as every count is.
+TEST(F_VisualizzaColonne, WheelAndKeysMoveThePageAndTheLineSaysWhere) {
+    Banco b;
+    ImpostaColonne(b.c, 1000);
+    F_VisualizzaColonne f(b.c);
+    const int passo = QApplication::wheelScrollLines();
+    const QString mille = "1" + QString::fromStdString(combi::SeparatoreMigliaia()) + "000";
+    EXPECT_EQ(f.LabPosizione()->text(), "colonna 1 di " + mille);
+    Rotella(f, 120);  // up, already at the top
+    EXPECT_EQ(f.Slider1()->value(), 1);
+    Rotella(f, -120);
+    EXPECT_EQ(Righe(f).front(), 1 + passo);
+    Rotella(f, -60);  // half a notch waits for the other half
+    EXPECT_EQ(f.Slider1()->value(), 1 + passo);
+    Rotella(f, -60);
+    EXPECT_EQ(f.Slider1()->value(), 1 + 2 * passo);
+    EXPECT_EQ(f.LabPosizione()->text(), QString("colonna %1 di ").arg(1 + 2 * passo) + mille);
+    QTest::keyClick(f.ListView1(), Qt::Key_PageDown);
+    EXPECT_EQ(f.Slider1()->value(), 1 + 2 * passo + F_VisualizzaColonne::kRighe);
+    QTest::keyClick(f.ListView1(), Qt::Key_End);
+    EXPECT_EQ(Righe(f), DaA(1000 - F_VisualizzaColonne::kRighe + 1, 1000));
+    QTest::keyClick(f.ListView1(), Qt::Key_Home);
+    EXPECT_EQ(Righe(f).front(), 1);
+    for (int i = 0; i < 400; ++i) Rotella(f, -120);  // past the end: the last column alone
+    EXPECT_EQ(Righe(f), std::vector<int>{1000});
+
+    Banco vuoto;
+    F_VisualizzaColonne nessuna(vuoto.c);
+    EXPECT_EQ(nessuna.LabPosizione()->text(), "Nessuna colonna");
+}
+
+// A taller window shows more columns: as many whole rows as the list holds.
+TEST(F_VisualizzaColonne, ATallerWindowShowsMoreRows) {
+    Banco b;
+    ImpostaColonne(b.c, 1000);
+    F_VisualizzaColonne f(b.c);
+    f.resize(520, 600);
+    f.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&f));
+    f.resize(520, 1400);
+    QTest::qWait(50);
+    const QTreeWidget* lista = f.ListView1();
+    const int altezzaRiga = lista->visualItemRect(lista->topLevelItem(0)).height();
+    ASSERT_GT(altezzaRiga, 0);
+    const int attese = lista->viewport()->height() / altezzaRiga;
+    ASSERT_GT(attese, F_VisualizzaColonne::kRighe);
+    EXPECT_EQ(Righe(f), DaA(1, attese));
+    EXPECT_LE(lista->visualItemRect(lista->topLevelItem(attese - 1)).bottom(), lista->viewport()->height());
+    EXPECT_EQ(f.Slider1()->pageStep(), attese);
 }
 
 TEST(CollegaStrumenti, VisualizzaColonneOpensTheViewerModally) {
