@@ -1,5 +1,8 @@
 #include "ClsOrdinaLv.h"
 
+#include <QPainter>
+#include <QPixmap>
+
 #include <QTreeWidget>
 #include <QVariant>
 
@@ -84,3 +87,21 @@ void ClsOrdinaLv::Ordina(QTreeWidget& lista, int16_t colonna, int32_t tipo, int3
     lista.setUpdatesEnabled(true);
     AggiornaIcone(lista, colonna, ordine);
 }
+
+namespace {
+
+// The pictures of the header image list: a triangle up (ascending) or down.
+QIcon Freccia(bool crescente) {
+    QPixmap immagine(12, 12);
+    immagine.fill(Qt::transparent);
+    QPainter pittore(&immagine);
+    pittore.setRenderHint(QPainter::Antialiasing);
+    pittore.setPen(Qt::NoPen);
+    pittore.setBrush(QColor(64, 64, 64));
+    pittore.drawPolygon(crescente ? QPolygonF{{6, 2}, {11, 10}, {1, 10}} : QPolygonF{{1, 2}, {11, 2}, {6, 10}});
+    return QIcon(immagine);
+}
+
+}  // namespace
+
+void ImpostaFrecceIntestazioni(QTreeWidget& lista) { ImpostaIconeIntestazioni(lista, Freccia(true), Freccia(false)); }

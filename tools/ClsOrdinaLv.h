@@ -23,6 +23,8 @@ inline constexpr int kRuoloTag = Qt::UserRole + 1;
 // Gives the list an image list for its column headers: icon 1 ascending,
 // icon 2 descending. Only lists that have one get header icons when sorted.
 void ImpostaIconeIntestazioni(QTreeWidget& lista, const QIcon& crescente, const QIcon& decrescente);
+// The same with the usual pictures: a small triangle up or down.
+void ImpostaFrecceIntestazioni(QTreeWidget& lista);
 
 // Which icon of the list's image list header `colonna` (1-based) shows:
 // 1, 2, or 0 for none (or a picture not from the image list).

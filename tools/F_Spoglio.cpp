@@ -47,18 +47,6 @@ QTreeWidget* CreaLista(QWidget* padre, const char* nome, const QStringList& inte
     return lista;
 }
 
-// The pictures of ImageList1: a triangle pointing up (ascending) or down.
-QIcon FrecciaOrdinamento(bool crescente) {
-    QPixmap immagine(12, 12);
-    immagine.fill(Qt::transparent);
-    QPainter pittore(&immagine);
-    pittore.setRenderHint(QPainter::Antialiasing);
-    pittore.setPen(Qt::NoPen);
-    pittore.setBrush(QColor(64, 64, 64));
-    const QPolygonF punta = crescente ? QPolygonF{{6, 2}, {11, 10}, {1, 10}} : QPolygonF{{1, 2}, {11, 2}, {6, 10}};
-    pittore.drawPolygon(punta);
-    return QIcon(immagine);
-}
 
 QColor ColoreEsito(combi::EsitoRiga esito) {
     switch (esito) {
@@ -143,7 +131,7 @@ void F_Spoglio::CreaPagine(QVBoxLayout* colonna) {
                            {"Condizione", "Punti", "Recupero", "Punti effettivi", "Esito"},
                            {170, 90, 90, 110, 50});
     listView3_ = CreaLista(tabStrip1_, "ListView3", {"Vincita", "Colonne"}, {200, 80});
-    ImpostaIconeIntestazioni(*listView1_, FrecciaOrdinamento(true), FrecciaOrdinamento(false));
+    ImpostaFrecceIntestazioni(*listView1_);
     tabStrip1_->addTab(listView1_, "Vincite");
     tabStrip1_->addTab(listView2_, "Confronto condizioni");
     tabStrip1_->addTab(listView3_, "Riepilogo");

@@ -44,17 +44,6 @@ QDateEdit* CreaData(QWidget* padre, const char* nome) {
     return data;
 }
 
-// The pictures of the header image list: a triangle up (ascending) or down.
-QIcon Freccia(bool crescente) {
-    QPixmap immagine(12, 12);
-    immagine.fill(Qt::transparent);
-    QPainter pittore(&immagine);
-    pittore.setRenderHint(QPainter::Antialiasing);
-    pittore.setPen(Qt::NoPen);
-    pittore.setBrush(QColor(64, 64, 64));
-    pittore.drawPolygon(crescente ? QPolygonF{{6, 2}, {11, 10}, {1, 10}} : QPolygonF{{1, 2}, {11, 2}, {6, 10}});
-    return QIcon(immagine);
-}
 
 }  // namespace
 
@@ -123,7 +112,7 @@ void F_VerificaArchivio::CreaPagine(QVBoxLayout* colonna) {
     lvRiepilogo_ = CreaLista(tabRisultati_, "LvRiepilogo", {"Vincita", "Colonne"});
     lvEstrazioni_ = CreaLista(tabRisultati_, "LvEstrazioni", {"Data", "Ruota", "Numeri", "Punti", "Colonne", "Vincita"});
     lvEstrazioni_->header()->setSectionsClickable(true);
-    ImpostaIconeIntestazioni(*lvEstrazioni_, Freccia(true), Freccia(false));
+    ImpostaFrecceIntestazioni(*lvEstrazioni_);
     grafico_ = new QChartView(tabRisultati_);
     grafico_->setObjectName("Grafico");
     grafico_->setRenderHint(QPainter::Antialiasing);
