@@ -63,6 +63,10 @@ public:
     // Over a row the masks do not change with y: the row's key alone fixes
     // them, so a row judges the condition once for all its blocks.
     bool CostanteNellaRiga() const;
+    // The numbers y of a row (key `riga`) whose block may hold a column on
+    // which the condition passes: every y but where the row's key rules some
+    // out at once (a sum that cannot reach its range).
+    Maschera128 YPossibili(uint32_t riga) const;
 
     // Where one thread tallies a condition's blocks.
     struct Tallie {
@@ -301,6 +305,16 @@ inline uint32_t CondizioneCompilata::ChiaveDelBlocco(uint32_t riga, int y, int u
 [[gnu::always_inline]] inline void CondizioneCompilata::MaschereDelBlocco(uint32_t riga, int y, int ultimo,
                                                                           Maschera128& sup, Maschera128& rec) const {
     PerGenere([&]<Genere G>() { MaschereDi<G>(ChiaveDelBloccoDi<G>(riga, y, ultimo), y, sup, rec); });
+}
+
+inline Maschera128 CondizioneCompilata::YPossibili(uint32_t riga) const {
+    if (genere_ != Genere::Peso || !penultimaScelta_) return Maschera128::Tutti();
+    const int64_t p = riga;  // the weight of the first k-2 numbers
+    if (!ultimaScelta_) return Maschera128::Intervallo(minPunti_ - p, maxPunti_ - p);  // p + y alone
+    // p + y + x with y < x <= 127: some x exists when 2y + 1 <= max - p and y >= min - p - 127.
+    if (minPunti_ > maxPunti_) return {};
+    const int64_t alto = maxPunti_ - p - 1;
+    return Maschera128::Intervallo(minPunti_ - p - 127, alto < 0 ? -1 : alto / 2);
 }
 
 inline bool CondizioneCompilata::CostanteNellaRiga() const {

@@ -274,10 +274,12 @@ void Valutatore::GiudicaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna
     const CondizioneCompilata* cc = condizioni_.data();
     const uint32_t* righe = l.righeBlocco.data();
     Maschera128 riga = Maschera128::Tutti();
-    for (int f : foglieSole_)
+    Maschera128 ys = scelti_ & Maschera128::Intervallo(yPrimo, yUltimo);
+    for (int f : foglieSole_) {
         if (cc[f].CostanteNellaRiga()) riga &= cc[f].SuperateDelBlocco(righe[f], 0, c);
-    const Maschera128 ys = scelti_ & Maschera128::Intervallo(yPrimo, yUltimo);
-    if ((riga & sopra_[size_t(yPrimo)]).Vuota()) return;
+        else ys &= cc[f].YPossibili(righe[f]);
+    }
+    if (ys.Vuota() || (riga & sopra_[size_t(yPrimo)]).Vuota()) return;
     ys.PerOgni([&](int y) {
         const Maschera128 esito = Verdetto(sopra_[size_t(y)] & riga, [&](int i, Maschera128& sup, Maschera128& rec) {
             cc[i].MaschereDelBlocco(righe[i], y, c, sup, rec);
