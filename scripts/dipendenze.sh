@@ -5,8 +5,9 @@ set -euo pipefail
 # built whenever it is installed.
 # Qt SVG draws the toolbar icons, Qt Charts the statistics preview and the
 # chart of "Verifica su archivio".
+# clang with its libFuzzer runtime: the fuzz targets, built and run briefly in CI.
 pacchetti=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev qt6-charts-dev libgtest-dev libgmock-dev
-           libbenchmark-dev libopenmpi-dev openmpi-bin locales)
+           libbenchmark-dev libopenmpi-dev openmpi-bin locales clang libclang-rt-14-dev)
 mancanti=()
 for p in "${pacchetti[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || mancanti+=("$p")

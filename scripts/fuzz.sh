@@ -5,7 +5,8 @@
 #   scripts/fuzz.sh [target ...]          (no target: all of them, in turn)
 #   RUNS=100000 SECONDI=60 scripts/fuzz.sh FuzzSpoglio
 # Logs go to build-fuzz/log/<target>.log, crash files to build-fuzz/crash/.
-# The runs are niced: the machine is shared with compilers.
+# The runs are niced: the machine is shared with compilers. The script fails
+# when any target left a crash file (CI runs every target for a few seconds).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 runs=${RUNS:-10000000}
@@ -20,6 +21,7 @@ targets=("$@")
 CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCF_FUZZ=ON -DCF_GUI=OFF \
   -DCF_BENCH=OFF -DCF_MPI=OFF >/dev/null
 nice -n 19 ninja -j2 -C build-fuzz "${targets[@]}"
+rm -rf build-fuzz/crash
 mkdir -p build-fuzz/crash build-fuzz/log
 for target in "${targets[@]}"; do
   corpus=build-fuzz/corpus/$target
@@ -35,3 +37,8 @@ for target in "${targets[@]}"; do
   rm -f /tmp/FuzzRiduzione-"$pid".col  # the reduction target's scratch columns file
   grep -E '^Done|stat::number_of_executed_units|stat::peak_rss|ERROR|SUMMARY' "$log" || true
 done
+if [ -n "$(ls -A build-fuzz/crash)" ]; then
+  echo "fuzz: file di crash in build-fuzz/crash:" >&2
+  ls build-fuzz/crash >&2
+  exit 1
+fi

@@ -14,6 +14,9 @@ LANG=it_IT.UTF-8 LC_ALL=it_IT.UTF-8 build/bin/engine_tests --gtest_brief=1
 LANG=it_IT.UTF-8 LC_ALL=it_IT.UTF-8 build/bin/control_tests --gtest_brief=1
 # The benchmark's signature: the fast development equals the plain loop.
 scripts/firma-sviluppo.sh build
+# Every fuzz target built and run for about 20 seconds from its seeds, so
+# that none can rot.
+SECONDI=20 scripts/fuzz.sh
 
 cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCF_SANITIZE=ON -DCF_GUI=ON -DCF_BENCH=OFF
 # combifiltro-cli too: the MPI test and the parallel development run the program.
