@@ -5,42 +5,40 @@
 namespace {
 
 using combi::TipoCondizione;
-constexpr auto E = Disposizione::kElenco;
-constexpr auto I = Disposizione::kIntervallo;
 constexpr std::array<const char*, 5> kNessuna{};
 
 const std::array<VoceCatalogo, 16> kCatalogo{{
-    {combi::kPuntiColonna, "F_PuntisuColonna", "Punti su colonna", E, 12, nullptr, kNessuna, "", 0,
+    {combi::kPuntiColonna, "F_PuntisuColonna", "Punti su colonna", 12, nullptr, kNessuna, "", 0,
      "Punti", "Quadro Rec.", false},
-    {combi::kPariDispari, "F_PuntiSuPariDisp", "Punti su pari dispari", E, 8, nullptr,
+    {combi::kPariDispari, "F_PuntiSuPariDisp", "Punti su pari dispari", 8, nullptr,
      {"Pari", "Dispari"}, "", 0, "Punti", "Quadro Rec.", false},
-    {combi::kPeso, "F_PuntiSuPeso", "Punti su peso", I, 9, nullptr, kNessuna, "", 0, "Punti",
+    {combi::kPeso, "F_PuntiSuPeso", "Punti su peso", 9, nullptr, kNessuna, "", 0, "Punti",
      "Quadro Rec.", false},
-    {combi::kResto, "F_PuntiSuResto", "Punti su resto", E, 14, nullptr, {"2", "3", "4", "5"},
+    {combi::kResto, "F_PuntiSuResto", "Punti su resto", 14, nullptr, {"2", "3", "4", "5"},
      "Resto a : ", 0, "Punti", "Quadro Rec.", false},
-    {combi::kAmpiezza, "F_PuntiSuAmpiezza", "Ampiezza", I, 1, "Ampiezza", kNessuna, "", 0, "Punti",
+    {combi::kAmpiezza, "F_PuntiSuAmpiezza", "Ampiezza", 1, "Ampiezza", kNessuna, "", 0, "Punti",
      "Quadro", true},
-    {combi::kVortice, "F_PuntiSuVortice", "Vortice", E, 16, nullptr, {"Diretto", "Inverso"}, "", 1,
+    {combi::kVortice, "F_PuntiSuVortice", "Vortice", 16, nullptr, {"Diretto", "Inverso"}, "", 1,
      "Punti", "Quadro Rec.", false},
-    {combi::kSimmetrie, "F_PuntiSuSimmetrie", "Punti su simmetrie", E, 15, nullptr,
+    {combi::kSimmetrie, "F_PuntiSuSimmetrie", "Punti su simmetrie", 15, nullptr,
      {"Dirette", "Inverse"}, "", 0, "Punti", "Quadro Rec.", false},
-    {combi::kConsecutivi, "F_PuntiSuConsecutivi", "Punti su consecutivi", E, 3, "Consecutivi",
+    {combi::kConsecutivi, "F_PuntiSuConsecutivi", "Punti su consecutivi", 3, "Consecutivi",
      kNessuna, "", 0, "Punti", "Quadro Rec.", false},
-    {combi::kInterruzioni, "F_PuntiSuInterruzioni", "Punti su interruzioni", E, 6, "Interruzioni",
+    {combi::kInterruzioni, "F_PuntiSuInterruzioni", "Punti su interruzioni", 6, "Interruzioni",
      kNessuna, "", 0, "Punti", "Quadro Rec.", false},
-    {combi::kBaricentro, "F_PuntiSuBaricentro", "Baricentro", I, 2, "Baricentro", kNessuna, "", 0,
+    {combi::kBaricentro, "F_PuntiSuBaricentro", "Baricentro", 2, "Baricentro", kNessuna, "", 0,
      "Punti", "Quadro", false},
-    {combi::kDistanzaMinima, "F_PuntiSudistanzaMinima", "Distanza minima", I, 5, "DistanzaMin",
+    {combi::kDistanzaMinima, "F_PuntiSudistanzaMinima", "Distanza minima", 5, "DistanzaMin",
      kNessuna, "", 0, "Punti", "Quadro", false},
-    {combi::kDistanzaMassima, "F_PuntiSudistanzaMassima", "Distanza massima", I, 4, "DistanzaMax",
+    {combi::kDistanzaMassima, "F_PuntiSudistanzaMassima", "Distanza massima", 4, "DistanzaMax",
      kNessuna, "", 0, "Punti", "Quadro", false},
-    {combi::kPosizioni, "F_PuntiSuPosizione", "Punti su posizione", I, 11, nullptr, kNessuna, "", 0,
+    {combi::kPosizioni, "F_PuntiSuPosizione", "Punti su posizione", 11, nullptr, kNessuna, "", 0,
      "Numeri", "Quadro Rec.", false},
-    {combi::kPonte, "F_PuntiSuPonte", "Punti su ponte", E, 10, "Ponte", kNessuna, "", 0, "Punti",
+    {combi::kPonte, "F_PuntiSuPonte", "Punti su ponte", 10, "Ponte", kNessuna, "", 0, "Punti",
      "Quadro Rec.", false},
-    {combi::kSequenze, "F_PuntiSuSequenze", "Punti su sequenze", E, 13, nullptr, kNessuna, "", 0,
+    {combi::kSequenze, "F_PuntiSuSequenze", "Punti su sequenze", 13, nullptr, kNessuna, "", 0,
      "Punti", "Quadro Rec.", false},
-    {combi::kParalleli, "F_PuntiSuParalleli", "Punti su paralleli", E, 7, nullptr,
+    {combi::kParalleli, "F_PuntiSuParalleli", "Punti su paralleli", 7, nullptr,
      {"Diretti", "Inversi"}, "", 0, "Punti", "Quadro Rec.", false},
 }};
 

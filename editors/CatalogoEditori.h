@@ -2,17 +2,15 @@
 // The sixteen editors as data: what distinguishes one type from another when
 // nothing but its texts and captions differ. Types with fields of their own
 // (Resto, Sequenze, Punti su colonna, Ampiezza/Baricentro, Peso/Posizioni)
-// still take their captions and codes from here.
+// still take their captions and codes from here. Whether a type is judged on
+// a point list or a range is the engine's to say (TipiCondizione).
 
 #include <array>
-
-enum class Disposizione { kElenco, kIntervallo };
 
 struct VoceCatalogo {
     int tipo;                 // condition type code (combi::TipoCondizione)
     const char* nomeDialogo;  // objectName of the dialog
     const char* titolo;
-    Disposizione disposizione;
     int codiceStatistica;     // handed to the statistics preview
     // Parameters text of the types that only mark themselves: the keyword
     // written vertically. nullptr for the types whose text carries data.

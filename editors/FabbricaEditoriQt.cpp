@@ -1,6 +1,7 @@
 #include "FabbricaEditoriQt.h"
 
 #include "Condizione.h"
+#include "TipiCondizione.h"
 #include "F_PuntiSuCaselle.h"
 #include "F_PuntiSuElenco.h"
 #include "F_PuntiSuIntervallo.h"
@@ -22,7 +23,7 @@ std::unique_ptr<F_PuntiSuBase> Costruisci(const VoceCatalogo& v, const ContestoE
     case combi::kPosizioni: return std::make_unique<F_PuntiSuCaselle>(v, c, g);
     default: break;
     }
-    if (v.disposizione == Disposizione::kIntervallo) return std::make_unique<F_PuntiSuIntervallo>(v, c, g);
+    if (combi::GiudizioDelTipo(v.tipo) == combi::Giudizio::Intervallo) return std::make_unique<F_PuntiSuIntervallo>(v, c, g);
     return std::make_unique<F_PuntiSuElenco>(v, c, g);
 }
 
