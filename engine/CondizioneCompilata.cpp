@@ -145,8 +145,8 @@ uint32_t CondizioneCompilata::RigaDi(const Prefisso& q) const {
     return 0;
 }
 
-void CondizioneCompilata::ContaRiga(const Prefisso& q, int yPrimo, int yUltimo, const Maschera128& scelti,
-                                    const Tallie& t) const {
+void CondizioneCompilata::ContaRiga(const Prefisso& q, uint32_t riga, int yPrimo, int yUltimo,
+                                    const Maschera128& scelti, const Tallie& t) const {
     const auto intervallo = [&](uint32_t riga, int64_t da, int64_t a) {
         if (da > a) return;
         t.perRiga[riga * kLarghezzaRiga + size_t(da)] += 1;
@@ -164,7 +164,6 @@ void CondizioneCompilata::ContaRiga(const Prefisso& q, int yPrimo, int yUltimo, 
         (scelti & Maschera128::Intervallo(std::max<int64_t>(da, yPrimo), std::min<int64_t>(a, yUltimo)))
             .PerOgni([&](int y) { blocco(uint32_t(y - q.ultimo), y); });
     };
-    const uint32_t riga = RigaDi(q);
     if (q.lunghezza == 0 || (genere_ != Genere::Vicini && genere_ != Genere::DistanzaMinima &&
                              genere_ != Genere::DistanzaMassima)) {
         intervallo(riga, yPrimo, yUltimo);

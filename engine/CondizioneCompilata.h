@@ -79,9 +79,10 @@ public:
     };
     static constexpr size_t kLarghezzaRiga = kMaxNumero + 2;
 
-    // Tallies every block of the row of prefix q, whose y runs over the
-    // picked numbers yPrimo..yUltimo.
-    void ContaRiga(const Prefisso& q, int yPrimo, int yUltimo, const Maschera128& scelti, const Tallie& t) const;
+    // Tallies every block of the row of prefix q (whose key is `riga`), whose
+    // y runs over the picked numbers yPrimo..yUltimo.
+    void ContaRiga(const Prefisso& q, uint32_t riga, int yPrimo, int yUltimo, const Maschera128& scelti,
+                   const Tallie& t) const;
 
     // The candidates on which the condition passes directly and on which it
     // is recoverable, for a key and the prefix's last number (0 when the
@@ -95,6 +96,18 @@ public:
     }
     // Both masks of the block of y in a row (ChiaveDelBlocco, then Maschere).
     void MaschereDelBlocco(uint32_t riga, int y, int ultimo, Maschera128& sup, Maschera128& rec) const;
+    // The same for the blocks of ys[0..n) of a row, as f(j, sup, rec): one
+    // dispatch on the kind for all of them, so the loop inside is straight.
+    template <class F>
+    void PerOgniBlocco(uint32_t riga, int ultimo, const int* ys, size_t n, F&& f) const {
+        PerGenere([&]<Genere G>() {
+            for (size_t j = 0; j < n; ++j) {
+                Maschera128 sup, rec;
+                MaschereDi<G>(ChiaveDelBloccoDi<G>(riga, ys[j], ultimo), ys[j], sup, rec);
+                f(j, sup, rec);
+            }
+        });
+    }
     Maschera128 SuperateDelBlocco(uint32_t riga, int y, int ultimo) const {
         Maschera128 sup, rec;
         MaschereDelBlocco(riga, y, ultimo, sup, rec);

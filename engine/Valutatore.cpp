@@ -11,6 +11,7 @@ namespace {
 constexpr size_t kUltimi = kMaxNumero + 1;  // the prefix's last number, 0..90
 constexpr uint32_t kBlocchiPerRiordino = 4096;
 constexpr size_t kMembriVeloci = 3;  // panels and groups up to this size count without loops
+constexpr size_t kMassimoBlocchi = kMaxNumero;  // blocks of a row: one per number at position k-1
 
 }  // namespace
 
@@ -148,6 +149,9 @@ Valutatore::Lavagna Valutatore::NuovaLavagna() const {
         if (!condizioni_[size_t(f)].CostanteNellaRiga()) l.ordineRiga.push_back(f);
     l.scartiRiga.assign(l.ordineRiga.size(), 0);
     l.righeBlocco.resize(n);
+    l.superateBlocchi.resize(n * kMassimoBlocchi);
+    l.recuperabiliBlocchi.resize(n * kMassimoBlocchi);
+    l.gruppiBlocchi.resize(gruppi_.size() * kMassimoBlocchi);
     l.scarti.assign(foglieSole_.size(), 0);
     return l;
 }
@@ -261,11 +265,14 @@ Maschera128 Valutatore::Giudica(const Prefisso& p, Maschera128 candidati, bool i
     }, l.ordine, l.scarti, l);
 }
 
+// A row is judged a condition at a time over all its blocks still alive,
+// rather than a block at a time over all conditions: each condition costs
+// one dispatch on its kind per row, and dead blocks leave the list at once.
 void Valutatore::GiudicaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna& l) const {
     const size_t n = condizioni_.size();
     for (size_t i = 0; i < n; ++i) {
-        condizioni_[i].ContaRiga(q, yPrimo, yUltimo, scelti_, TallieDi(i, l));
         l.righeBlocco[i] = condizioni_[i].RigaDi(q);
+        condizioni_[i].ContaRiga(q, l.righeBlocco[i], yPrimo, yUltimo, scelti_, TallieDi(i, l));
     }
     l.esitiRiga.clear();
     const int c = q.ultimo;
@@ -280,12 +287,123 @@ void Valutatore::GiudicaRiga(const Prefisso& q, int yPrimo, int yUltimo, Lavagna
         else ys &= cc[f].YPossibili(righe[f]);
     }
     if (ys.Vuota() || (riga & sopra_[size_t(yPrimo)]).Vuota()) return;
+    l.ys.clear();
+    l.esiti.clear();
     ys.PerOgni([&](int y) {
-        const Maschera128 esito = Verdetto(sopra_[size_t(y)] & riga, [&](int i, Maschera128& sup, Maschera128& rec) {
-            cc[i].MaschereDelBlocco(righe[i], y, c, sup, rec);
-        }, l.ordineRiga, l.scartiRiga, l);
-        if (!esito.Vuota()) l.esitiRiga.push_back({y, esito});
+        const Maschera128 candidati = sopra_[size_t(y)] & riga;
+        if (candidati.Vuota()) return;
+        l.ys.push_back(y);
+        l.esiti.push_back(candidati);
     });
+    l.blocchi += uint32_t(l.ys.size());
+    if (l.blocchi >= kBlocchiPerRiordino) {
+        Riordina(l.ordineRiga, l.scartiRiga);
+        l.blocchi = 0;
+    }
+    for (size_t j = 0; j < l.ordineRiga.size() && !l.ys.empty(); ++j) {
+        const int f = l.ordineRiga[j];
+        const size_t prima = l.ys.size();
+        cc[f].PerOgniBlocco(righe[f], c, l.ys.data(), prima,
+                            [&](size_t b, const Maschera128& sup, const Maschera128&) { l.esiti[b] &= sup; });
+        CompattaVivi(l);
+        l.scartiRiga[j] += uint32_t(prima - l.ys.size());
+    }
+    if (l.ys.empty() || !QuadriDellaRiga(c, l)) return;
+    GruppiDellaRiga(c, l);
+    for (size_t b = 0; b < l.ys.size(); ++b)
+        if (!l.esiti[b].Vuota()) l.esitiRiga.push_back({l.ys[b], l.esiti[b]});
+}
+
+// The blocks left without a candidate leave the list.
+void Valutatore::CompattaVivi(Lavagna& l) const {
+    size_t vivi = 0;
+    for (size_t b = 0; b < l.ys.size(); ++b) {
+        if (l.esiti[b].Vuota()) continue;
+        l.ys[vivi] = l.ys[b];
+        l.esiti[vivi++] = l.esiti[b];
+    }
+    l.ys.resize(vivi);
+    l.esiti.resize(vivi);
+}
+
+// The recovery panels over the alive blocks; false when none is left.
+bool Valutatore::QuadriDellaRiga(int c, Lavagna& l) const {
+    const CondizioneCompilata* cc = condizioni_.data();
+    const uint32_t* righe = l.righeBlocco.data();
+    const size_t blocchi = l.ys.size();
+    Maschera128* supDi = l.superateBlocchi.data();
+    Maschera128* recDi = l.recuperabiliBlocchi.data();
+    for (const Quadro& q : quadri_) {
+        for (int m : q.membri) {
+            Maschera128* sup = supDi + size_t(m) * kMassimoBlocchi;
+            Maschera128* rec = recDi + size_t(m) * kMassimoBlocchi;
+            cc[m].PerOgniBlocco(righe[m], c, l.ys.data(), blocchi,
+                                [&](size_t b, const Maschera128& s, const Maschera128& r) {
+                                    sup[b] = s;
+                                    rec[b] = r;
+                                });
+        }
+        const size_t quanti = q.membri.size();
+        std::array<const Maschera128*, kMembriVeloci> rec{};
+        for (size_t i = 0; i < quanti && i < kMembriVeloci; ++i) rec[i] = recDi + size_t(q.membri[i]) * kMassimoBlocchi;
+        std::array<Maschera128, kMembriVeloci> membri;
+        for (size_t b = 0; b < blocchi; ++b) {
+            Maschera128 dentro;
+            if (quanti <= kMembriVeloci) {
+                for (size_t i = 0; i < quanti; ++i) membri[i] = rec[i][b];
+                dentro = ConteggioInInsieme(membri.data(), quanti, q.valori);
+            } else {
+                ConteggioMaschere conteggio(quanti);
+                for (int m : q.membri) conteggio.Aggiungi(recDi[size_t(m) * kMassimoBlocchi + b]);
+                const int da = std::max(q.minimo, 0), a = std::min<int>(q.massimo, int(quanti));
+                for (int v = da; v <= a; ++v) dentro |= conteggio.Uguale(v);
+            }
+            for (int m : q.membri) {
+                const size_t k = size_t(m) * kMassimoBlocchi + b;
+                supDi[k] |= recDi[k] & dentro;
+            }
+        }
+        for (int m : q.finali) {
+            const Maschera128* sup = supDi + size_t(m) * kMassimoBlocchi;
+            for (size_t b = 0; b < blocchi; ++b) l.esiti[b] &= sup[b];
+        }
+    }
+    for (const Maschera128& e : l.esiti)
+        if (!e.Vuota()) return true;
+    return false;
+}
+
+void Valutatore::GruppiDellaRiga(int c, Lavagna& l) const {
+    const CondizioneCompilata* cc = condizioni_.data();
+    const uint32_t* righe = l.righeBlocco.data();
+    const size_t blocchi = l.ys.size();
+    Maschera128* supDi = l.superateBlocchi.data();
+    for (size_t g = 0; g < gruppi_.size(); ++g) {
+        const Gruppo& gr = gruppi_[g];
+        for (int f : gr.proprie) {
+            Maschera128* sup = supDi + size_t(f) * kMassimoBlocchi;
+            cc[f].PerOgniBlocco(righe[f], c, l.ys.data(), blocchi,
+                                [&](size_t b, const Maschera128& s, const Maschera128&) { sup[b] = s; });
+        }
+        Maschera128* passa = l.gruppiBlocchi.data() + g * kMassimoBlocchi;
+        const size_t quanti = gr.foglie.size() + gr.figli.size();
+        std::array<Maschera128, kMembriVeloci> membri;
+        for (size_t b = 0; b < blocchi; ++b) {
+            if (quanti <= kMembriVeloci) {
+                size_t i = 0;
+                for (int f : gr.foglie) membri[i++] = supDi[size_t(f) * kMassimoBlocchi + b];
+                for (int f : gr.figli) membri[i++] = l.gruppiBlocchi[size_t(f) * kMassimoBlocchi + b];
+                passa[b] = ConteggioInInsieme(membri.data(), quanti, gr.valori);
+            } else {
+                ConteggioMaschere conteggio(quanti);
+                for (int f : gr.foglie) conteggio.Aggiungi(supDi[size_t(f) * kMassimoBlocchi + b]);
+                for (int f : gr.figli) conteggio.Aggiungi(l.gruppiBlocchi[size_t(f) * kMassimoBlocchi + b]);
+                passa[b] = {};
+                for (int v : gr.accettati) passa[b] |= conteggio.Uguale(v);
+            }
+            if (gr.finale) l.esiti[b] &= passa[b];
+        }
+    }
 }
 
 // The order of the conditions tried alone changes no verdict, only how soon

@@ -52,6 +52,12 @@ public:
         std::vector<uint32_t> scarti, scartiRiga;  // blocks each one ended, since the last reordering
         uint32_t blocchi = 0;
         std::vector<uint32_t> righeBlocco;  // the row keys of the current row
+        // The blocks of the current row still alive: y and candidates; the
+        // masks of one condition over them.
+        std::vector<int> ys;
+        std::vector<Maschera128> esiti;
+        // Per condition (and per group), its masks over the row's blocks.
+        std::vector<Maschera128> superateBlocchi, recuperabiliBlocchi, gruppiBlocchi;
         // The blocks of the last row judged that keep a column: y and the candidates kept.
         std::vector<std::pair<int, Maschera128>> esitiRiga;
     };
@@ -100,6 +106,9 @@ private:
     void Maschere(int i, uint32_t chiave, int ultimo, Lavagna& l) const;
     CondizioneCompilata::Tallie TallieDi(size_t i, Lavagna& l) const;
     void RiversaRighe(size_t i, Lavagna& l) const;
+    void CompattaVivi(Lavagna& l) const;
+    bool QuadriDellaRiga(int c, Lavagna& l) const;
+    void GruppiDellaRiga(int c, Lavagna& l) const;
     void RiversaChiavi(size_t i, Lavagna& l, Contatori& contatori) const;
     static void Riordina(std::vector<int>& ordine, std::vector<uint32_t>& scarti);
 
