@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QToolBar>
 #include <QToolButton>
+#include <stdexcept>
 
 #include "Banco.h"
 #include "ComandiPannello.h"
@@ -278,6 +279,9 @@ TEST(Pannello, CommandsOfOtherWindowsAndRecoveryPanels) {
     b.c.EseguiComando("riduzione");
     EXPECT_EQ(riduzioni, 1);
     EXPECT_EQ(b.c.QuantitaColonne(), 1);
+    // A misspelt key fails when it is registered, not later as "Funzione non
+    // ancora disponibile" when the user presses the button.
+    EXPECT_THROW(b.c.RegistraComando("Riduzion", [] {}), std::invalid_argument);
     EXPECT_TRUE(b.c.Pulsante("VisualizzaColonne")->isEnabled()) << "column commands refreshed";
 
     b.c.RiduciColonne("/non/esiste.col", 3);
