@@ -1,5 +1,6 @@
 #include "ClsOrdinaLv.h"
 
+#include <QHeaderView>
 #include <QPainter>
 #include <QPixmap>
 
@@ -59,6 +60,18 @@ int IconaIntestazione(const QTreeWidget& lista, int colonna) {
     for (int i = 0; i < immagini.size(); ++i)
         if (immagini[i].cacheKey() == mostrata.cacheKey()) return i + 1;
     return 0;
+}
+
+QTreeWidget* CreaLista(QWidget* padre, const char* nome, const QStringList& intestazioni) {
+    auto* lista = new QTreeWidget(padre);
+    lista->setObjectName(nome);
+    lista->setRootIsDecorated(false);
+    lista->setUniformRowHeights(true);
+    lista->setSortingEnabled(false);
+    lista->setHeaderLabels(intestazioni);
+    lista->header()->setSectionsClickable(true);
+    lista->header()->setSortIndicatorShown(false);
+    return lista;
 }
 
 QTreeWidgetItem* CreaRiga(const QStringList& testi, const QString& chiave, const QString& tag) {

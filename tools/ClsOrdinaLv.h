@@ -10,11 +10,13 @@
 // does not survive a sort.
 
 #include <QIcon>
+#include <QStringList>
 
 #include <cstdint>
 
 class QTreeWidget;
 class QTreeWidgetItem;
+class QWidget;
 
 // Where a row keeps its key and its tag: data of column 0 under these roles.
 inline constexpr int kRuoloChiave = Qt::UserRole;
@@ -29,6 +31,10 @@ void ImpostaFrecceIntestazioni(QTreeWidget& lista);
 // Which icon of the list's image list header `colonna` (1-based) shows:
 // 1, 2, or 0 for none (or a picture not from the image list).
 int IconaIntestazione(const QTreeWidget& lista, int colonna);
+
+// A new report list: flat, named `nome`, with these headers, clickable for a
+// sort whose order is ClsOrdinaLv's alone (Qt's own sort stays off).
+QTreeWidget* CreaLista(QWidget* padre, const char* nome, const QStringList& intestazioni);
 
 // A new row (not yet in a list): `testi` are the main text and the
 // sub-items in order; key and tag as the sort keeps them.

@@ -32,16 +32,9 @@ namespace {
 // Column of the conditions list whose text colour tells the outcome.
 constexpr int kColonnaPuntiEffettivi = 3;
 
-QTreeWidget* CreaLista(QWidget* padre, const char* nome, const QStringList& intestazioni,
-                       std::initializer_list<int> larghezze) {
-    auto* lista = new QTreeWidget(padre);
-    lista->setObjectName(nome);
-    lista->setRootIsDecorated(false);
-    lista->setUniformRowHeights(true);
-    lista->setSortingEnabled(false);  // the order is ClsOrdinaLv's alone
-    lista->setHeaderLabels(intestazioni);
-    lista->header()->setSectionsClickable(true);
-    lista->header()->setSortIndicatorShown(false);
+QTreeWidget* CreaListaLarga(QWidget* padre, const char* nome, const QStringList& intestazioni,
+                            std::initializer_list<int> larghezze) {
+    QTreeWidget* lista = CreaLista(padre, nome, intestazioni);
     int c = 0;
     for (int larghezza : larghezze) lista->header()->resizeSection(c++, larghezza);
     return lista;
@@ -126,11 +119,11 @@ void F_Spoglio::MostraNumeriLetti() {
 void F_Spoglio::CreaPagine(QVBoxLayout* colonna) {
     tabStrip1_ = new QTabWidget(this);
     tabStrip1_->setObjectName("TabStrip1");
-    listView1_ = CreaLista(tabStrip1_, "ListView1", {"Colonna", "Numeri", "Punti"}, {80, 220, 60});
-    listView2_ = CreaLista(tabStrip1_, "ListView2",
+    listView1_ = CreaListaLarga(tabStrip1_, "ListView1", {"Colonna", "Numeri", "Punti"}, {80, 220, 60});
+    listView2_ = CreaListaLarga(tabStrip1_, "ListView2",
                            {"Condizione", "Punti", "Recupero", "Punti effettivi", "Esito"},
                            {170, 90, 90, 110, 50});
-    listView3_ = CreaLista(tabStrip1_, "ListView3", {"Vincita", "Colonne"}, {200, 80});
+    listView3_ = CreaListaLarga(tabStrip1_, "ListView3", {"Vincita", "Colonne"}, {200, 80});
     ImpostaFrecceIntestazioni(*listView1_);
     tabStrip1_->addTab(listView1_, "Vincite");
     tabStrip1_->addTab(listView2_, "Confronto condizioni");

@@ -23,14 +23,8 @@
 
 namespace {
 
-QTreeWidget* CreaLista(QWidget* padre, const char* nome, const QStringList& intestazioni) {
-    auto* lista = new QTreeWidget(padre);
-    lista->setObjectName(nome);
-    lista->setRootIsDecorated(false);
-    lista->setUniformRowHeights(true);
-    lista->setSortingEnabled(false);  // the order is ClsOrdinaLv's alone
-    lista->setHeaderLabels(intestazioni);
-    lista->header()->setSortIndicatorShown(false);
+QTreeWidget* CreaListaAdattata(QWidget* padre, const char* nome, const QStringList& intestazioni) {
+    QTreeWidget* lista = CreaLista(padre, nome, intestazioni);
     lista->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     return lista;
 }
@@ -109,8 +103,8 @@ void F_VerificaArchivio::CreaScelte(QVBoxLayout* colonna) {
 void F_VerificaArchivio::CreaPagine(QVBoxLayout* colonna) {
     tabRisultati_ = new QTabWidget(this);
     tabRisultati_->setObjectName("TabRisultati");
-    lvRiepilogo_ = CreaLista(tabRisultati_, "LvRiepilogo", {"Vincita", "Colonne"});
-    lvEstrazioni_ = CreaLista(tabRisultati_, "LvEstrazioni", {"Data", "Ruota", "Numeri", "Punti", "Colonne", "Vincita"});
+    lvRiepilogo_ = CreaListaAdattata(tabRisultati_, "LvRiepilogo", {"Vincita", "Colonne"});
+    lvEstrazioni_ = CreaListaAdattata(tabRisultati_, "LvEstrazioni", {"Data", "Ruota", "Numeri", "Punti", "Colonne", "Vincita"});
     lvEstrazioni_->header()->setSectionsClickable(true);
     ImpostaFrecceIntestazioni(*lvEstrazioni_);
     grafico_ = new QChartView(tabRisultati_);
@@ -124,7 +118,7 @@ void F_VerificaArchivio::CreaPagine(QVBoxLayout* colonna) {
     grdPremi_->setHorizontalHeaderLabels({"Punti", "Premio per colonna (posta 1 €)"});
     grdPremi_->verticalHeader()->hide();
     grdPremi_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    lvBilancio_ = CreaLista(denaro, "LvBilancio", {"Anno", "Giocato", "Vinto", "Saldo"});
+    lvBilancio_ = CreaListaAdattata(denaro, "LvBilancio", {"Anno", "Giocato", "Vinto", "Saldo"});
     rigaDenaro->addWidget(grdPremi_);
     rigaDenaro->addWidget(lvBilancio_, 1);
 
