@@ -6,6 +6,7 @@
 
 #include "Errore.h"
 #include "Formato.h"
+#include "Quicksort.h"
 
 namespace combi {
 

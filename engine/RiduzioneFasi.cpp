@@ -5,7 +5,7 @@
 
 #include "Errore.h"
 #include "FileColonne.h"
-#include "OrdinaLv.h"
+#include "Quicksort.h"
 
 namespace combi::riduzione {
 
