@@ -147,9 +147,12 @@ void Coordinatore::Calcola(uint64_t indice, Pezzo& pz, Banco& banco, uint64_t pa
                 superate += uint64_t(ok.Conta());
                 return;
             }
+            // The row's column is copied whole and only then given its last
+            // number in place: setting the byte in `c` and copying it after
+            // makes every copy wait for that one-byte store to reach memory.
             ok.PerOgni([&](int x) {
-                c.Numeri[size_t(k - 1)] = uint8_t(x);
                 pz.superate.push_back(c);
+                pz.superate.back().Numeri[size_t(k - 1)] = uint8_t(x);
             });
         };
         banco.enumerazione.Percorri(
