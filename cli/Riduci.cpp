@@ -1,6 +1,7 @@
 // combifiltro-cli riduci: reduces a columns file so that every dropped column
-// shares at least P of its first six numbers with a kept one, and writes the
-// columns left. Ctrl-C stops the run; the columns left so far are written.
+// shares at least P of its numbers with a kept one, and writes the columns
+// left. Ctrl-C stops the run; the columns left so far are written. With
+// --ottimizza the greedy result is improved by local search for a time budget.
 
 #include <algorithm>
 #include <ostream>
@@ -58,11 +59,13 @@ int ComandoRiduci(const Parole& parole, std::ostream& out, std::ostream& err) {
     if (a.Posizionali().size() != 1) throw ErroreUso{"indicare un solo file di colonne (.col)"};
     const auto punti = a.Opzione("punti");
     if (!punti) throw ErroreUso{"manca --punti P (5, 4 o 3 numeri in comune)"};
-    const int puntiRichiesti = LeggiIntero(*punti, 1, kNumeriRiduzione, "--punti");
+    const int puntiRichiesti = LeggiIntero(*punti, 1, kMassimaClasseRiduzione, "--punti");
     const auto uscita = a.Opzione("colonne");
     if (!uscita) throw ErroreUso{"manca --colonne FILE.col"};
 
     const std::vector<Colonna> colonne = LeggiColonneDaRidurre(a.Posizionali()[0]);
+    const int classe = ClasseColonne(colonne);
+    if (puntiRichiesti > classe) LeggiIntero(*punti, 1, classe, "--punti");  // the message of a bad number
     out << "Colonne : " << FormatNumero(double(colonne.size())) << "\n" << std::flush;
     InstallaStopDaTastiera();
     OsservatoreRiduzioneTerminale osservatore(err);
