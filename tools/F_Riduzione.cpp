@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -72,17 +73,18 @@ double PassoTondo(double massimo) {
     return std::max(1.0, 10 * potenza);
 }
 
-// The axis from `minimo` to `massimo` with labels on round values, the
-// numbers grouped as everywhere else.
+// The axis from `minimo` to `massimo` widened to round values, with a label
+// on each, the numbers grouped as everywhere else. A category ends on its
+// label, so the first one starts a step before the axis.
 void ImpostaAsse(QCategoryAxis* asse, double minimo, double massimo) {
     for (const QString& etichetta : asse->categoriesLabels()) asse->remove(etichetta);
     const double passo = PassoTondo(massimo - minimo);
     minimo = std::floor(minimo / passo) * passo;
     massimo = std::max(minimo + passo, std::ceil(massimo / passo) * passo);
-    asse->setMin(minimo);
-    asse->setStartValue(minimo);
-    for (double v = minimo; v <= massimo + passo / 2; v += passo) asse->append(TestoContatore(v), v);
-    asse->setMax(massimo);
+    asse->setStartValue(minimo - passo);
+    const int tacche = int(std::llround((massimo - minimo) / passo));
+    for (int i = 0; i <= tacche; ++i) asse->append(TestoContatore(minimo + i * passo), minimo + i * passo);
+    asse->setRange(minimo, massimo);
 }
 
 }  // namespace
@@ -124,6 +126,7 @@ void F_Riduzione::CostruisciFinestra() {
     labColonneRid_ = CreaEtichetta("LabColonneRid");
     modulo->addRow("Colonne ridotte", labColonneRid_);
     labInfo_ = CreaEtichetta("LabInfo");
+    labInfo_->setWordWrap(true);
     modulo->addRow("Riduzione", labInfo_);
     colonna->addLayout(modulo);
 
@@ -147,7 +150,7 @@ void F_Riduzione::CostruisciFinestra() {
         riga->addWidget(xpButton1_[i]);
     }
     colonna->addLayout(riga);
-    setMinimumWidth(460);
+    setMinimumWidth(520);
 }
 
 // "Ottimizza", the seconds it may take, and the chart of the best size found.
@@ -297,6 +300,8 @@ void F_Riduzione::Avvia() {
     AzzeraGrafico();
     const bool ottimizza = chkOttimizza_->isChecked();
     const QPointer<F_Riduzione> finestra(this);
+    QElapsedTimer durata;
+    durata.start();
     if (ottimizza) {
         secondiMassimi_ = txtSecondi_->value();
         combi::OpzioniOttimizzazione opzioni;
@@ -306,6 +311,8 @@ void F_Riduzione::Avvia() {
         controllo_.RiduciColonne(labFile_->text(), puntiRichiesti);
     }
     if (!finestra) return;  // the host dropped the window during the run
+    // The best size held until the end of the run.
+    if (ottimizza && serie_->count() > 0) serie_->append(durata.elapsed() / 1000.0, serie_->points().last().y());
     labColonneRid_->setText(TestoContatore(controllo_.QuantitaColonne()));
     MostraEsito(ottimizza);
     occupato_ = false;
