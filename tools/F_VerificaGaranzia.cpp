@@ -71,7 +71,7 @@ private:
 QTableWidgetItem* Cella(const QString& testo) {
     auto* cella = new QTableWidgetItem(testo);
     cella->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-    cella->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    cella->setTextAlignment(Qt::AlignCenter);
     return cella;
 }
 
@@ -144,9 +144,12 @@ void F_VerificaGaranzia::CreaTabella(QVBoxLayout* colonna) {
     grdGaranzia_->setObjectName("GrdGaranzia");
     grdGaranzia_->setHorizontalHeaderLabels({"Indovinati", "Punti garantiti"});
     grdGaranzia_->verticalHeader()->hide();
+    grdGaranzia_->verticalHeader()->setDefaultSectionSize(grdGaranzia_->fontMetrics().height() + 6);
     grdGaranzia_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     grdGaranzia_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    grdGaranzia_->setMinimumHeight(160);
+    grdGaranzia_->setSelectionMode(QAbstractItemView::NoSelection);
+    grdGaranzia_->setFocusPolicy(Qt::NoFocus);
+    grdGaranzia_->setMinimumHeight(7 * (grdGaranzia_->fontMetrics().height() + 6) + 8);
     grdGaranzia_->setToolTip("Se escono m dei tuoi numeri, almeno una colonna fa questi punti");
     interno->addWidget(grdGaranzia_);
     colonna->addWidget(gruppo, 1);

@@ -28,6 +28,7 @@
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -284,6 +285,21 @@ TEST(F_VerificaGaranzia, AnnullaStopsALargeTable) {
     EXPECT_TRUE(f.CmdTabella()->isEnabled());
     f.CmdChiudi()->click();
     EXPECT_FALSE(f.isVisible());
+}
+
+// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// it saves a picture of the window after the table and the holes.
+TEST(Screenshot, VerificaGaranzia) {
+    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
+    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
+    BancoGaranzia g({kA, kB}, 3);
+    F_VerificaGaranzia f(g.b.c, g.b.dialoghi);
+    f.show();
+    f.CmdTabella()->click();
+    f.TxtPunti()->setValue(5);
+    f.CmdBuchi()->click();
+    QTest::qWait(200);
+    EXPECT_TRUE(f.grab().save(cartella + "/verifica-garanzia.png"));
 }
 
 }  // namespace
