@@ -312,7 +312,12 @@ void F_Riduzione::Avvia() {
     }
     if (!finestra) return;  // the host dropped the window during the run
     // The best size held until the end of the run.
-    if (ottimizza && serie_->count() > 0) serie_->append(durata.elapsed() / 1000.0, serie_->points().last().y());
+    if (ottimizza && serie_->count() > 0) {
+        const double fine = durata.elapsed() / 1000.0;
+        serie_->append(fine, serie_->points().last().y());
+        ImpostaAsse(static_cast<QCategoryAxis*>(grafico_->chart()->axes(Qt::Horizontal).first()), 0,
+                    std::max(fine, secondiMassimi_));
+    }
     labColonneRid_->setText(TestoContatore(controllo_.QuantitaColonne()));
     MostraEsito(ottimizza);
     occupato_ = false;
