@@ -32,12 +32,14 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <functional>
 
 #include "../control/Banco.h"
 #include "F_VerificaGaranzia.h"
 #include "F_VisualizzaColonne.h"
 #include "FileColonne.h"
+#include "Formato.h"
 #include "Garanzia.h"
 
 namespace {
@@ -64,6 +66,31 @@ std::vector<Colonna> VentottoColonne() {
             v.push_back(c);
         }
     return v;
+}
+
+// The holes among every column of 1..`numeri` in `classe`, in lexicographic
+// order, each compared with every kept column number by number.
+std::vector<Colonna> BuchiAForzaBruta(const std::vector<Colonna>& tenute, int numeri, int classe, int punti) {
+    std::vector<Colonna> buchi;
+    std::vector<int> c(static_cast<size_t>(classe));
+    std::function<void(int, int)> scegli = [&](int posto, int da) {
+        if (posto == classe) {
+            const bool coperta = std::any_of(tenute.begin(), tenute.end(), [&](const Colonna& t) {
+                int comuni = 0;
+                for (int n : c)
+                    for (int p = 1; p <= classe; ++p) comuni += t[p] == n ? 1 : 0;
+                return comuni >= punti;
+            });
+            if (coperta) return;
+            Colonna buco;
+            for (int p = 0; p < classe; ++p) buco[p + 1] = static_cast<uint8_t>(c[size_t(p)]);
+            buchi.push_back(buco);
+            return;
+        }
+        for (int n = da; n <= numeri; ++n) c[size_t(posto)] = n, scegli(posto + 1, n + 1);
+    };
+    scegli(0, 1);
+    return buchi;
 }
 
 const Colonna kA = Col({1, 2, 3, 4, 5, 6});
@@ -250,41 +277,64 @@ TEST(F_VerificaGaranzia, SaysWhatIsMissing) {
     }
 }
 
-// A large table stopped with "Annulla": the rows done so far, the window
-// free again and closable. Meanwhile it refuses to close.
-TEST(F_VerificaGaranzia, AnnullaStopsALargeTable) {
-    Banco b;
-    b.NumeriDa1A(60);
-    std::vector<Colonna> tenute = {Colonna{}};
-    for (int i = 0; i < 10; ++i) tenute.push_back(Col({6 * i + 1, 6 * i + 2, 6 * i + 3, 6 * i + 4, 6 * i + 5, 6 * i + 6}));
-    b.c.ImpostaColonneSviluppo(tenute);
-    F_VerificaGaranzia f(b.c, b.dialoghi);
-    f.TxtEstratti()->setValue(20);
-    f.show();
-    bool occupato = false, chiusa = true, annullaAttivo = false;
-    QTimer spia;
-    spia.setInterval(0);
-    QObject::connect(&spia, &QTimer::timeout, [&] {
-        if (!f.Occupato() || occupato) return;
-        occupato = true;
-        annullaAttivo = f.CmdAnnulla()->isEnabled() && !f.CmdTabella()->isEnabled() && !f.CmdBuchi()->isEnabled();
-        f.close();
-        chiusa = !f.isVisible();
-        f.CmdAnnulla()->click();
-    });
-    spia.start();
-    f.CmdTabella()->click();
-    spia.stop();
-    ASSERT_TRUE(occupato) << "the run never pumped the events";
-    EXPECT_TRUE(annullaAttivo);
-    EXPECT_FALSE(chiusa);
-    EXPECT_FALSE(f.Occupato());
-    EXPECT_LT(f.GrdGaranzia()->rowCount(), 20);
-    EXPECT_EQ(f.LabInfo()->text(), QString("Calcolo interrotto: %1 righe su 20").arg(f.GrdGaranzia()->rowCount()));
-    EXPECT_FALSE(f.CmdAnnulla()->isEnabled());
-    EXPECT_TRUE(f.CmdTabella()->isEnabled());
-    f.CmdChiudi()->click();
-    EXPECT_FALSE(f.isVisible());
+// A large table and a large search for holes stopped with "Annulla": what
+// was done so far, the window free again and closable. Meanwhile it refuses
+// to close. Ten disjoint columns over 1..60; the holes among the 50,063,860
+// columns of 1..60 would not even fit, so the search covers 1..30 in class 6
+// (593,775 columns) with 3 points.
+TEST(F_VerificaGaranzia, AnnullaStopsALargeRun) {
+    for (const bool tabella : {true, false}) {
+        SCOPED_TRACE(tabella ? "tabella" : "buchi");
+        Banco b;
+        b.NumeriDa1A(tabella ? 60 : 30);
+        std::vector<Colonna> tenute = {Colonna{}};
+        for (int i = 0; i < 10; ++i)
+            tenute.push_back(Col({6 * i + 1, 6 * i + 2, 6 * i + 3, 6 * i + 4, 6 * i + 5, 6 * i + 6}));
+        b.c.ImpostaColonneSviluppo(tenute);
+        F_VerificaGaranzia f(b.c, b.dialoghi);
+        f.TxtEstratti()->setValue(20);
+        f.TxtPunti()->setValue(3);
+        f.show();
+        bool occupato = false, chiusa = true, annullaAttivo = false;
+        QTimer spia;
+        spia.setInterval(0);
+        QObject::connect(&spia, &QTimer::timeout, [&] {
+            if (!f.Occupato() || occupato) return;
+            occupato = true;
+            annullaAttivo = f.CmdAnnulla()->isEnabled() && !f.CmdTabella()->isEnabled() && !f.CmdBuchi()->isEnabled();
+            f.close();
+            chiusa = !f.isVisible();
+            f.CmdAnnulla()->click();
+        });
+        spia.start();
+        (tabella ? f.CmdTabella() : f.CmdBuchi())->click();
+        spia.stop();
+        ASSERT_TRUE(occupato) << "the run never pumped the events";
+        EXPECT_TRUE(annullaAttivo);
+        EXPECT_FALSE(chiusa);
+        EXPECT_FALSE(f.Occupato());
+        if (tabella) {
+            EXPECT_LT(f.GrdGaranzia()->rowCount(), 20);
+            EXPECT_EQ(f.LabInfo()->text(),
+                      QString("Calcolo interrotto: %1 righe su 20").arg(f.GrdGaranzia()->rowCount()));
+        } else {
+            // The search stopped before the end: the holes it gives are the
+            // first ones of the whole list.
+            EXPECT_EQ(f.LabInfo()->text(), QString("Ricerca interrotta: %1 colonne da coprire con 3 punti")
+                                               .arg(QString::fromStdString(combi::FormatNumero(593775))));
+            const std::vector<Colonna> tutti = BuchiAForzaBruta(std::vector<Colonna>(tenute.begin() + 1, tenute.end()),
+                                                                30, 6, 3);
+            EXPECT_LT(f.Buchi().size(), tutti.size());
+            EXPECT_TRUE(std::equal(f.Buchi().begin(), f.Buchi().end(), tutti.begin()))
+                << "the holes found before the stop, in order";
+            EXPECT_EQ(f.LabBuchi()->text(),
+                      "Buchi : " + QString::fromStdString(combi::FormatNumero(double(f.Buchi().size()))));
+        }
+        EXPECT_FALSE(f.CmdAnnulla()->isEnabled());
+        EXPECT_TRUE(f.CmdTabella()->isEnabled());
+        f.CmdChiudi()->click();
+        EXPECT_FALSE(f.isVisible());
+    }
 }
 
 // Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
