@@ -126,6 +126,11 @@ TEST(CercaBuchi, ColumnsOfOtherClassesStopAndRefusals) {
                                             Col({6, 7, 8, 9, 10, 11}), Col({1, 2, 3})};
     EXPECT_EQ(CercaBuchi(tenute, daCoprire, 5, muto), (std::vector<Colonna>{daCoprire[1], daCoprire[3]}));
     EXPECT_EQ(CercaBuchi({}, daCoprire, 1, muto), daCoprire);
+    // A gap in a column: every non-zero position counts, also after it.
+    Colonna conBuco = Col({1, 2, 3, 4, 5, 6});
+    conBuco[2] = 0;
+    EXPECT_TRUE(CercaBuchi({conBuco}, {Col({3, 4, 5, 6, 7, 8})}, 4, muto).empty());
+    EXPECT_EQ(CercaBuchi({Col({3, 4, 5, 6, 7, 8})}, {conBuco}, 5, muto), std::vector<Colonna>{conBuco});
     // Stopped at the first pump (after 4096 columns): the holes among those
     // only, every one but the five copies of 1-6 (positions 0, 924, ..., 3696).
     std::vector<int> dodici;

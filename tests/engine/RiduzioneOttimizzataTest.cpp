@@ -7,6 +7,7 @@
 
 #include "Errore.h"
 #include "Garanzia.h"
+#include "RicercaLocale.h"
 #include "RiduzioneOttimizzata.h"
 
 namespace combi {
@@ -24,7 +25,10 @@ public:
     }
     void ElaboraMessaggi() override { ++pompe; }
     bool RichiestaStop() override { return stop_ > 0 && pompe >= stop_; }
+    void Fase(const std::string& testo) override { eventi.push_back("F" + testo); }
+    void Percentuale(int percento) override { eventi.push_back("P" + std::to_string(percento)); }
     std::vector<size_t> migliori;
+    std::vector<std::string> eventi;
     int pompe = 0;
 
 private:
@@ -85,6 +89,12 @@ TEST(RiduzioneOttimizzata, ValidNeverLargerAndRepeatableOnRandomSets) {
             EXPECT_EQ(std::adjacent_find(a.migliori.begin(), a.migliori.end()), a.migliori.end());
             EXPECT_EQ(a.migliori.back(), r.colonne.size());
             EXPECT_LE(a.migliori.front(), avido);
+            // The search is announced after the greedy phases, and ends as they do.
+            EXPECT_NE(std::find(a.eventi.begin(), a.eventi.end(), std::string("F") + kFaseOttimizzazione),
+                      a.eventi.end());
+            ASSERT_GE(a.eventi.size(), 2u);
+            EXPECT_EQ(std::vector<std::string>(a.eventi.end() - 2, a.eventi.end()),
+                      (std::vector<std::string>{"F", "P0"}));
             // The same seed and steps: the same columns.
             EXPECT_EQ(RiduciColonneOttimizzate(v, c.punti, opzioni, b).colonne, r.colonne);
             piuPiccoli += r.colonne.size() < avido;
@@ -111,6 +121,37 @@ TEST(RiduzioneOttimizzata, IntegralDesignsEndBelowTheGreedySize) {
         const RisultatoRiduzione ottima = RiduciColonneOttimizzate(v, c.punti, opzioni, r);
         EXPECT_LT(ottima.colonne.size(), avido) << c.n << " numeri, " << c.punti << " punti";
         EXPECT_TRUE(CercaBuchi(ottima.colonne, v, c.punti, muto).empty());
+    }
+}
+
+// The search itself: every set it reports as a new best covers the whole
+// input (checked pair by pair here, on all the numbers of the class), and the
+// bests shrink by at least one column each time.
+TEST(RiduzioneOttimizzata, EveryBestOfTheSearchCovers) {
+    struct Caso { uint32_t seme; int pool; int classe; int punti; };
+    for (const Caso& c : {Caso{21, 12, 6, 3}, Caso{22, 13, 5, 3}, Caso{23, 15, 8, 5}, Caso{24, 10, 3, 2}}) {
+        const std::vector<Colonna> v = Casuali(c.seme, 300, c.pool, c.classe);
+        const auto Comuni = [&](const Colonna& a, const Colonna& b) {
+            int k = 0;
+            for (int p = 1; p <= c.classe; ++p)
+                for (int q = 1; q <= c.classe; ++q) k += a[p] == b[q];
+            return k;
+        };
+        std::vector<uint32_t> tutte(v.size());
+        for (uint32_t i = 0; i < tutte.size(); ++i) tutte[i] = i;
+        riduzione::RicercaLocale ricerca(v, c.classe, c.punti, tutte, c.seme);
+        size_t precedente = ricerca.Migliore().size() + 1;
+        for (int passo = 0; passo < 4000; ++passo) {
+            if (passo > 0 && !ricerca.Passo()) continue;
+            const std::vector<uint32_t>& m = ricerca.Migliore();
+            ASSERT_LT(m.size(), precedente);
+            precedente = m.size();
+            ASSERT_TRUE(std::is_sorted(m.begin(), m.end()));
+            for (const Colonna& x : v)
+                ASSERT_TRUE(std::any_of(m.begin(), m.end(), [&](uint32_t k) { return Comuni(x, v[k]) >= c.punti; }))
+                    << "seme " << c.seme << " passo " << passo;
+        }
+        EXPECT_LT(precedente, v.size() / 4);
     }
 }
 
