@@ -3,13 +3,14 @@
 //
 // The same promise as the reduction (every input column shares at least
 // `puntiRichiesti` numbers with a kept column) with fewer kept columns. The
-// search starts from the greedy result, drops redundant columns, then
-// repeatedly removes one column and repairs the holes it leaves by swapping a
-// kept column for an input column, choosing the swap that leaves the least
-// weight of uncovered columns (every column still uncovered gains weight at
-// each step, so stubborn holes are attacked first; the recently moved columns
-// are tabu for a few steps). Each time every column is covered again the set
-// is recorded as the best and the search tries one column fewer.
+// search starts from the greedy result and drops its redundant columns; then,
+// at a fixed size, it picks an uncovered column, lets the kept column nearest
+// to it give way to the input column covering it that leaves the least
+// uncovered weight, and takes the change when it does not add weight, or now
+// and then when it does (columns that stay uncovered gain weight, so stubborn
+// holes are attacked first). Each time every column is covered again the set
+// is recorded as the best and the column whose removal uncovers least is
+// dropped: the search tries one column fewer. See RicercaLocale.h.
 //
 // Deterministic for a given seed and step limit: the time budget only ends
 // the search earlier. The result is checked against the whole input before it
