@@ -224,6 +224,29 @@ TEST(TabellaGaranzia, HandWorkedSystemsAndTheDefinition) {
     }
 }
 
+// A reduction at P points of every column of some numbers promises, when six
+// of those numbers are drawn, a kept column with at least P of them: the row
+// for 6 of the table, reached by a different road.
+TEST(TabellaGaranzia, ReducedIntegralSystemsKeepTheirPromise) {
+    for (int n : {9, 11, 12}) {
+        std::vector<int> numeri;
+        for (int x = 1; x <= n; ++x) numeri.push_back(x);
+        const std::vector<Colonna> integrale = ColonneIntegrali(numeri, 6);
+        for (int punti = 2; punti <= 5; ++punti) {
+            OsservatoreRiduzione muto;
+            const std::vector<Colonna> tenute = RiduciColonne(integrale, punti, muto).colonne;
+            const TabellaGaranzia t = CalcolaTabellaGaranzia(tenute, numeri, 6, muto);
+            ASSERT_EQ(t.righe.size(), 6u);
+            EXPECT_GE(t.righe[5].puntiMinimi, punti) << n << " numeri, " << punti << " punti";
+            // Every row is at least the one before and at most one more.
+            for (size_t m = 1; m < t.righe.size(); ++m) {
+                EXPECT_GE(t.righe[m].puntiMinimi, t.righe[m - 1].puntiMinimi);
+                EXPECT_LE(t.righe[m].puntiMinimi, t.righe[m - 1].puntiMinimi + 1);
+            }
+        }
+    }
+}
+
 TEST(TabellaGaranzia, StopAndRefusals) {
     std::vector<int> trenta;
     for (int n = 1; n <= 30; ++n) trenta.push_back(n);
