@@ -18,6 +18,7 @@
 #include "ChiaviComandi.h"
 #include "CombiFiltroA.h"
 #include "F_VerificaArchivio.h"
+#include "F_VerificaGaranzia.h"
 #include "ServizioDialoghiQt.h"
 #include "StampaSchedine.h"
 #include "SviluppoParallelo.h"
@@ -109,6 +110,10 @@ void FinestraPrincipale::CostruisciMenu() {
         QSettings impostazioni;
         F_VerificaArchivio verifica(*controllo_, *dialoghi_, impostazioni, this);
         verifica.exec();
+    });
+    comandiSviluppo_ << strumenti->addAction("Verifica &garanzia...", this, [this] {
+        F_VerificaGaranzia garanzia(*controllo_, *dialoghi_, this);
+        garanzia.exec();
     });
     QMenu* aiuto = menuBar()->addMenu("&?");
     comandiSviluppo_ << aiuto->addAction("&Informazioni", this, [this] {

@@ -15,6 +15,7 @@ int ComandoSviluppa(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoConta(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoInfo(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoRiduci(const Parole& parole, std::ostream& out, std::ostream& err);
+int ComandoGaranzia(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoSpoglio(const Parole& parole, std::ostream& out, std::ostream& err);
 int ComandoStorico(const Parole& parole, std::ostream& out, std::ostream& err);
 

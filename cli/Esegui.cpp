@@ -24,7 +24,11 @@ const Comando kComandi[] = {
      "[--riferimento] [--rapporto] [--mpi] [--silenzioso]"},
     {"conta", ComandoConta, "conta SISTEMA.sic [--contatori OUT.sic] [--thread N] [--silenzioso]"},
     {"info", ComandoInfo, "info FILE.sic|FILE.col"},
-    {"riduci", ComandoRiduci, "riduci COLONNE.col --punti P --colonne OUT.col [--riferimento]"},
+    {"riduci", ComandoRiduci,
+     "riduci COLONNE.col --punti P --colonne OUT.col [--riferimento | --ottimizza [--secondi S] [--seme N]]"},
+    {"garanzia", ComandoGaranzia,
+     "garanzia TENUTE.col --punti P (--su COLONNE.col | --numeri 1-20 --classe 6) [--buchi BUCHI.col]\n"
+     "  combifiltro-cli garanzia TENUTE.col --tabella --numeri 1-20 [--estratti 5]"},
     {"spoglio", ComandoSpoglio, "spoglio COLONNE.col --estrazione 5,12,90 [--minimo P] [--classe K]"},
     {"storico", ComandoStorico,
      "storico COLONNE.col --archivio FILE --gioco Lotto|10ELotto|SuperEnalotto [--ruota Bari] "

@@ -178,18 +178,21 @@ int32_t CombiFiltroA::CalcolaSequenze(int16_t k, const combi::Colonna& c, const 
 namespace {
 
 // The control's side of a reduction: the window's view (if any) shows the
-// phase and the percentage; the control pumps the events, so that the stop
-// button and the percentage stay live, and answers the stop request that
-// StopRiduciColonne sets meanwhile.
-class OsservatoreRiduzioneControllo : public combi::OsservatoreRiduzione {
+// phase, the percentage and the best size so far; the control pumps the
+// events, so that the stop button and the percentage stay live, and answers
+// the stop request that StopRiduciColonne sets meanwhile.
+class OsservatoreRiduzioneControllo : public combi::OsservatoreOttimizzazione {
 public:
-    OsservatoreRiduzioneControllo(std::unique_ptr<combi::OsservatoreRiduzione> vista, const bool& stop)
+    OsservatoreRiduzioneControllo(std::unique_ptr<combi::OsservatoreOttimizzazione> vista, const bool& stop)
         : vista_(std::move(vista)), stop_(stop) {}
     void Fase(const std::string& testo) override {
         if (vista_) vista_->Fase(testo);
     }
     void Percentuale(int percento) override {
         if (vista_) vista_->Percentuale(percento);
+    }
+    void MigliorTrovato(std::size_t colonne, double secondi) override {
+        if (vista_) vista_->MigliorTrovato(colonne, secondi);
     }
     // The engine asks after every column, and a pump costs more than a step
     // of the reduction (pumping every time made a run of 300000 columns
@@ -206,7 +209,7 @@ public:
 
 private:
     static constexpr qint64 kMillisecondiTraPompe = 15;
-    std::unique_ptr<combi::OsservatoreRiduzione> vista_;
+    std::unique_ptr<combi::OsservatoreOttimizzazione> vista_;
     const bool& stop_;
     QElapsedTimer ultimaPompa_;
 };
@@ -214,10 +217,26 @@ private:
 }  // namespace
 
 void CombiFiltroA::RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti) {
+    EseguiRiduzione(sFileCol, [nPuntiRichiesti](const std::vector<combi::Colonna>& colonne,
+                                                combi::OsservatoreOttimizzazione& oss) {
+        return combi::RiduciColonne(colonne, nPuntiRichiesti, oss);
+    });
+}
+
+void CombiFiltroA::RiduciColonneOttimizzate(const QString& sFileCol, int32_t nPuntiRichiesti,
+                                            const combi::OpzioniOttimizzazione& opzioni) {
+    EseguiRiduzione(sFileCol, [nPuntiRichiesti, opzioni](const std::vector<combi::Colonna>& colonne,
+                                                         combi::OsservatoreOttimizzazione& oss) {
+        return combi::RiduciColonneOttimizzate(colonne, nPuntiRichiesti, opzioni, oss);
+    });
+}
+
+void CombiFiltroA::EseguiRiduzione(const QString& sFileCol, const Riduttore& riduci) {
     // Inside a development's event pump only "Stop" reacts: a reduction there
     // would replace the columns under the development, and any box would
     // hold the development behind it. Nor does a reduction start inside one.
     if (Occupato()) return;
+    esitoRiduzione_ = {};
     if (!QFileInfo::exists(sFileCol)) {
         dialoghi_->Critico(QString(), "Il file delle colonne non esiste");
         return;
@@ -234,7 +253,8 @@ void CombiFiltroA::RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiest
             return;
         }
         OsservatoreRiduzioneControllo osservatore(VistaDellaRiduzione(), stopRiduzione_);
-        combi::RisultatoRiduzione r = combi::RiduciColonne(colonne, nPuntiRichiesti, osservatore);
+        combi::RisultatoRiduzione r = riduci(colonne, osservatore);
+        esitoRiduzione_ = {true, r.interrotto, int64_t(colonne.size()), int64_t(r.colonne.size())};
         r.colonne.insert(r.colonne.begin(), combi::Colonna{});  // element 0 stays empty
         ImpostaColonneSviluppo(std::move(r.colonne));
     });
@@ -244,7 +264,7 @@ void CombiFiltroA::RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiest
 
 // The open reduction window shows the run; without one (a host's call) the
 // tools open a window first, so that the progress is seen.
-std::unique_ptr<combi::OsservatoreRiduzione> CombiFiltroA::VistaDellaRiduzione() {
+std::unique_ptr<combi::OsservatoreOttimizzazione> CombiFiltroA::VistaDellaRiduzione() {
     auto vista = vistaRiduzione_ ? vistaRiduzione_() : nullptr;
     if (vista) return vista;
     if (const auto apri = Gestore(chiavi::kApriFinestraRiduzione)) apri();

@@ -27,11 +27,9 @@
 #include "ColonneSviluppate.h"
 #include "Condizione.h"
 #include "FileSistema.h"
+#include "RiduzioneOttimizzata.h"
 #include "Sviluppo.h"
 
-namespace combi {
-class OsservatoreRiduzione;
-}
 class ArchivioProprieta;
 class FabbricaEditori;
 class EditoreCondizione;
@@ -139,9 +137,10 @@ public:
     int32_t CalcolaSequenze(int16_t nClasse, const combi::Colonna& col, const QString& sSeq) const;
 
     void SalvaFileColonne();
-    // Column reduction: reduces the columns file `sFileCol` so that every
-    // dropped column shares at least `nPuntiRichiesti` (1..6) of its first six
-    // numbers with a kept one; the columns left replace the developed ones.
+    // Column reduction: reduces the columns file `sFileCol` (columns of one
+    // class k, 2..10) so that every dropped column shares at least
+    // `nPuntiRichiesti` (1..k) of its numbers with a kept one; the columns
+    // left replace the developed ones.
     // The reduction window shows the phases and the percentage (one is
     // opened when none is). Events are pumped after every step, so the
     // window stays alive and StopRiduciColonne can end the run early (the
@@ -149,12 +148,26 @@ public:
     // reported; a failure is reported as "CombiFiltro.RiduciColonne" and
     // changes nothing. During a development the call does nothing.
     void RiduciColonne(const QString& sFileCol, int32_t nPuntiRichiesti);
+    // The same, then a search for a smaller set with the same guarantee for
+    // as long as `opzioni` allow; StopRiduciColonne ends it with the best set
+    // found so far, never larger than RiduciColonne's.
+    void RiduciColonneOttimizzate(const QString& sFileCol, int32_t nPuntiRichiesti,
+                                  const combi::OpzioniOttimizzazione& opzioni);
     void StopRiduciColonne();
     bool RichiestaStopRiduzione() const { return stopRiduzione_; }
-    // The reduction window hands over the view of its phase label and
-    // percentage, asked for at the start of every reduction; a view that
-    // answers nullptr (its window is gone) or none at all: the run is unseen.
-    using VistaRiduzione = std::function<std::unique_ptr<combi::OsservatoreRiduzione>()>;
+    // What the last reduction did, for the window's summary.
+    struct EsitoRiduzione {
+        bool eseguita = false;     // columns were read and reduced
+        bool interrotta = false;   // a stop ended it
+        int64_t ingresso = 0;      // columns in the file
+        int64_t tenute = 0;        // columns kept
+    };
+    const EsitoRiduzione& UltimaRiduzione() const { return esitoRiduzione_; }
+    // The reduction window hands over the view of its phase label,
+    // percentage and best size so far, asked for at the start of every
+    // reduction; a view that answers nullptr (its window is gone) or none at
+    // all: the run is unseen.
+    using VistaRiduzione = std::function<std::unique_ptr<combi::OsservatoreOttimizzazione>()>;
     void RegistraVistaRiduzione(VistaRiduzione vista) { vistaRiduzione_ = std::move(vista); }
 
     int16_t GetIdCmbTipoGioco() const;
@@ -316,7 +329,12 @@ private:
     // Development (CombiFiltroASviluppo.cpp)
     combi::EsitoSviluppo SviluppoInterno();
     // The view of a reduction about to start (CombiFiltroA.cpp).
-    std::unique_ptr<combi::OsservatoreRiduzione> VistaDellaRiduzione();
+    std::unique_ptr<combi::OsservatoreOttimizzazione> VistaDellaRiduzione();
+    // Reads the file and runs `riduci` on its columns with the control's
+    // view, pump and stop; the columns left replace the developed ones.
+    using Riduttore = std::function<combi::RisultatoRiduzione(const std::vector<combi::Colonna>&,
+                                                              combi::OsservatoreOttimizzazione&)>;
+    void EseguiRiduzione(const QString& sFileCol, const Riduttore& riduci);
 
     // File (CombiFiltroAFile.cpp)
     void CaricaSistemaNonProtetta(const QString& percorso);
@@ -371,4 +389,5 @@ private:
     bool richiestaStop_ = false;
     bool stopRiduzione_ = false;
     VistaRiduzione vistaRiduzione_;
+    EsitoRiduzione esitoRiduzione_;
 };

@@ -57,20 +57,20 @@ void Seleziona(const IndiceCoperture& indice, const TabellaRappresentativita& ta
 namespace riduzione {
 
 std::vector<int32_t> ContaCoperture(const std::vector<Colonna>& colonne, int puntiRichiesti) {
-    ControllaIngresso(colonne, puntiRichiesti);
-    return IndiceCoperture(colonne, puntiRichiesti).Conte();
+    const int classe = ControllaIngresso(colonne, puntiRichiesti);
+    return IndiceCoperture(colonne, classe, puntiRichiesti).Conte();
 }
 
 }  // namespace riduzione
 
 RisultatoRiduzione RiduciColonne(const std::vector<Colonna>& colonne, int puntiRichiesti,
                                  OsservatoreRiduzione& oss) {
-    riduzione::ControllaIngresso(colonne, puntiRichiesti);
+    const int classe = riduzione::ControllaIngresso(colonne, puntiRichiesti);
     Controllo controllo(oss);
     TabellaRappresentativita tabella(colonne.size() + 1);
 
     controllo.Fase(kFaseAnalisi);
-    const IndiceCoperture indice(colonne, puntiRichiesti);
+    const IndiceCoperture indice(colonne, classe, puntiRichiesti);
     riduzione::CompletaAnalisi(tabella, Analizza(indice, tabella, controllo));
 
     controllo.Fase(kFaseOrdinamento);

@@ -1,7 +1,7 @@
 #pragma once
 // The reduction of a set of columns: keep a subset such that every dropped
-// column shares at least `puntiRichiesti` of its first six numbers with some
-// kept column. Three phases:
+// column shares at least `puntiRichiesti` of its k numbers with some kept
+// column, k being the class of the set (ClasseColonne). Three phases:
 //   1. representativeness: for every column, how many others it covers;
 //   2. the table sorted by that count, largest first (the list quicksort);
 //   3. greedy selection in sorted order: a column not yet eliminated is kept
@@ -17,9 +17,14 @@
 // Decisions about inputs the columns file allows:
 //  - no column: the result is empty;
 //  - a file whose length is not a multiple of 20: only whole records count;
-//  - the first six bytes of every column must be six different numbers
-//    1..90, otherwise the reduction refuses the set (Errore 321 naming the
-//    column): a class-5 column has no sixth number to compare.
+//  - the class k of the set is the class of its first column (its highest
+//    position holding a number) and must be 2..10;
+//  - the first k bytes of every column must be k different numbers 1..90,
+//    otherwise the reduction refuses the set (Errore 321 naming the column):
+//    in a class-6 set a class-5 column has no sixth number to compare;
+//  - numbers after position k are not compared: a class-6 file whose records
+//    carry a seventh byte reduces on the first six numbers, as it always has.
+//    A set is "mixed" when a column has fewer numbers than the first one.
 //
 // Stop. The observer's stop request is read right after every message pump
 // and, once seen, holds until the end of the run. The pumps come after every
@@ -40,7 +45,9 @@
 
 namespace combi {
 
-inline constexpr int kNumeriRiduzione = 6;  // the reduction looks at the first six numbers
+inline constexpr int kNumeriRiduzione = 6;      // the usual class: six numbers per column
+inline constexpr int kMinimaClasseRiduzione = 2;
+inline constexpr int kMassimaClasseRiduzione = 10;
 
 inline constexpr const char* kFaseAnalisi = "Analisi rappresentatività colonne in corso ...";
 inline constexpr const char* kFaseOrdinamento = "Ordinamento in corso ...";
@@ -64,9 +71,15 @@ struct RisultatoRiduzione {
     bool interrotto = false;       // a stop request was seen
 };
 
-// `colonne` are the columns in file order; `puntiRichiesti` is 1..6 (the
-// dialog offers 5, 4 and 3). Throws Errore for points outside 1..6 or a
-// column without six different numbers 1..90 in its first six positions.
+// The common class of a set of columns: the class of the first column, which
+// every column must reach with different numbers 1..90 in its first
+// positions. 0 for no column. Throws Errore 321 for a class outside 2..10
+// or naming the first column with fewer numbers (a mixed set).
+int ClasseColonne(const std::vector<Colonna>& colonne);
+
+// `colonne` are the columns in file order; `puntiRichiesti` is 1..k for a
+// set of class k (the dialog offers k - 1, k - 2 and k - 3). Throws Errore
+// for points outside 1..k or a set ClasseColonne refuses.
 RisultatoRiduzione RiduciColonne(const std::vector<Colonna>& colonne, int puntiRichiesti,
                                  OsservatoreRiduzione& oss);
 

@@ -20,22 +20,52 @@ void Controllo::Percento(int percento) {
     oss_.Percentuale(percento);
 }
 
-void ControllaIngresso(const std::vector<Colonna>& colonne, int puntiRichiesti) {
-    if (puntiRichiesti < 1 || puntiRichiesti > kNumeriRiduzione)
-        throw Errore(kErroreArgomento, "I punti richiesti devono essere da 1 a 6, non " +
+namespace {
+
+// "sei", the word the messages have always used for the usual class.
+std::string InLettere(int n) {
+    static const char* const parole[] = {"zero", "uno", "due", "tre", "quattro", "cinque",
+                                         "sei", "sette", "otto", "nove", "dieci"};
+    return n >= 0 && n <= 10 ? parole[n] : std::to_string(n);
+}
+
+}  // namespace
+
+int ControllaIngresso(const std::vector<Colonna>& colonne, int puntiRichiesti) {
+    const int classe = colonne.empty() ? kNumeriRiduzione : ClasseColonne(colonne);
+    if (puntiRichiesti < 1 || puntiRichiesti > classe)
+        throw Errore(kErroreArgomento, "I punti richiesti devono essere da 1 a " + std::to_string(classe) + ", non " +
                                            std::to_string(puntiRichiesti));
+    return classe;
+}
+
+}  // namespace combi::riduzione
+
+namespace combi {
+
+int ClasseColonne(const std::vector<Colonna>& colonne) {
+    if (colonne.empty()) return 0;
+    const int classe = ClasseDellaColonna(colonne[0]);
+    if (classe < kMinimaClasseRiduzione || classe > kMassimaClasseRiduzione)
+        throw Errore(kErroreFormatoFile, "La classe delle colonne deve essere da 2 a 10: la colonna 1 ha " +
+                                             std::to_string(classe) + " numeri");
+    const std::string k = riduzione::InLettere(classe);
     for (size_t i = 0; i < colonne.size(); ++i) {
         bool visto[kMaxNumero + 1] = {};
-        for (int pos = 1; pos <= kNumeriRiduzione; ++pos) {
+        for (int pos = 1; pos <= classe; ++pos) {
             const int n = colonne[i][pos];
             if (n < 1 || n > kMaxNumero || visto[n])
-                throw Errore(kErroreFormatoFile,
-                             "La colonna " + std::to_string(i + 1) +
-                                 " non ha sei numeri diversi da 1 a 90 nelle prime sei posizioni");
+                throw Errore(kErroreFormatoFile, "La colonna " + std::to_string(i + 1) + " non ha " + k +
+                                                     " numeri diversi da 1 a 90 nelle prime " + k + " posizioni");
             visto[n] = true;
         }
     }
+    return classe;
 }
+
+}  // namespace combi
+
+namespace combi::riduzione {
 
 void CompletaAnalisi(TabellaRappresentativita& tabella, int64_t analizzate) {
     for (size_t i = size_t(analizzate) + 1; i < tabella.size(); ++i) tabella[i] = {int32_t(i), 0};

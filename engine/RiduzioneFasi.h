@@ -41,9 +41,9 @@ private:
     bool fermo_ = false;
 };
 
-// Throws Errore for points outside 1..kNumeriRiduzione, or naming the first
-// column (1-based) whose first six bytes are not six different numbers 1..90.
-void ControllaIngresso(const std::vector<Colonna>& colonne, int puntiRichiesti);
+// The class of the set (ClasseColonne; 6 for no column). Throws Errore for
+// points outside 1..class, or as ClasseColonne does.
+int ControllaIngresso(const std::vector<Colonna>& colonne, int puntiRichiesti);
 
 // After a stopped analysis: the records from `analizzate` + 1 on get their
 // own column index and count 0.

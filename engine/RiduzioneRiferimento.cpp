@@ -15,25 +15,28 @@ namespace {
 using riduzione::Controllo;
 using riduzione::TabellaRappresentativita;
 
+// The first `classe` numbers of one column, compared with another's.
 struct Segni {
+    explicit Segni(int classe) : classe(classe) {}
+    int classe;
     bool numero[kMaxNumero + 1] = {};
 
     void Segna(const Colonna& c) {
         std::fill(std::begin(numero), std::end(numero), false);
-        for (int pos = 1; pos <= kNumeriRiduzione; ++pos) numero[c[pos]] = true;
+        for (int pos = 1; pos <= classe; ++pos) numero[c[pos]] = true;
     }
     int Comuni(const Colonna& c) const {
         int k = 0;
-        for (int pos = 1; pos <= kNumeriRiduzione; ++pos) k += numero[c[pos]];
+        for (int pos = 1; pos <= classe; ++pos) k += numero[c[pos]];
         return k;
     }
 };
 
 // Returns the number of columns analysed (all of them unless stopped).
-int64_t Analizza(const std::vector<Colonna>& colonne, int punti, TabellaRappresentativita& tabella,
+int64_t Analizza(const std::vector<Colonna>& colonne, int classe, int punti, TabellaRappresentativita& tabella,
                  Controllo& controllo) {
     const int64_t n = int64_t(colonne.size());
-    Segni segni;
+    Segni segni(classe);
     for (int64_t i = 1; i <= n; ++i) {
         segni.Segna(colonne[size_t(i) - 1]);
         int32_t coperte = 0;
@@ -48,11 +51,11 @@ int64_t Analizza(const std::vector<Colonna>& colonne, int punti, TabellaRapprese
     return n;
 }
 
-void Seleziona(const std::vector<Colonna>& colonne, int punti, const TabellaRappresentativita& tabella,
+void Seleziona(const std::vector<Colonna>& colonne, int classe, int punti, const TabellaRappresentativita& tabella,
                std::vector<uint8_t>& eliminata, Controllo& controllo) {
     const int64_t n = int64_t(colonne.size());
     std::vector<uint8_t> tenuta(size_t(n) + 1, 0);
-    Segni segni;
+    Segni segni(classe);
     for (int64_t p = 1; p <= n; ++p) {
         const int64_t c = tabella[size_t(p)].indice;
         if (!eliminata[size_t(c)]) {
@@ -74,11 +77,11 @@ void Seleziona(const std::vector<Colonna>& colonne, int punti, const TabellaRapp
 namespace riduzione {
 
 std::vector<int32_t> ContaCopertureRiferimento(const std::vector<Colonna>& colonne, int puntiRichiesti) {
-    ControllaIngresso(colonne, puntiRichiesti);
+    const int classe = ControllaIngresso(colonne, puntiRichiesti);
     OsservatoreRiduzione muto;
     Controllo controllo(muto);
     TabellaRappresentativita tabella(colonne.size() + 1);
-    Analizza(colonne, puntiRichiesti, tabella, controllo);
+    Analizza(colonne, classe, puntiRichiesti, tabella, controllo);
     std::vector<int32_t> conte;
     for (size_t i = 1; i < tabella.size(); ++i) conte.push_back(tabella[i].conta);
     return conte;
@@ -88,12 +91,12 @@ std::vector<int32_t> ContaCopertureRiferimento(const std::vector<Colonna>& colon
 
 RisultatoRiduzione RiduciColonneRiferimento(const std::vector<Colonna>& colonne, int puntiRichiesti,
                                             OsservatoreRiduzione& oss) {
-    riduzione::ControllaIngresso(colonne, puntiRichiesti);
+    const int classe = riduzione::ControllaIngresso(colonne, puntiRichiesti);
     Controllo controllo(oss);
     TabellaRappresentativita tabella(colonne.size() + 1);
 
     controllo.Fase(kFaseAnalisi);
-    riduzione::CompletaAnalisi(tabella, Analizza(colonne, puntiRichiesti, tabella, controllo));
+    riduzione::CompletaAnalisi(tabella, Analizza(colonne, classe, puntiRichiesti, tabella, controllo));
 
     controllo.Fase(kFaseOrdinamento);
     controllo.Pausa();
@@ -101,7 +104,7 @@ RisultatoRiduzione RiduciColonneRiferimento(const std::vector<Colonna>& colonne,
 
     controllo.Fase(kFaseRiduzione);
     std::vector<uint8_t> eliminata(colonne.size() + 1, 0);
-    Seleziona(colonne, puntiRichiesti, tabella, eliminata, controllo);
+    Seleziona(colonne, classe, puntiRichiesti, tabella, eliminata, controllo);
 
     RisultatoRiduzione r;
     r.colonne = riduzione::ColonneRimaste(colonne, eliminata, controllo);

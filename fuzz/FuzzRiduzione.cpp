@@ -30,18 +30,20 @@ const std::string& FileDiLavoro() {
     return percorso;
 }
 
-bool Coperta(const combi::Colonna& a, const combi::Colonna& b, int punti) {
+// Compared on the first `classe` numbers, the class of the set.
+bool Coperta(const combi::Colonna& a, const combi::Colonna& b, int classe, int punti) {
     int comuni = 0;
-    for (int i = 1; i <= combi::kNumeriRiduzione; ++i)
-        for (int j = 1; j <= combi::kNumeriRiduzione; ++j) comuni += a[i] == b[j];
+    for (int i = 1; i <= classe; ++i)
+        for (int j = 1; j <= classe; ++j) comuni += a[i] == b[j];
     return comuni >= punti;
 }
 
 void ControllaGaranzia(const std::vector<combi::Colonna>& tutte, const std::vector<combi::Colonna>& tenute,
                        int punti) {
+    const int classe = combi::ClasseColonne(tutte);
     for (const combi::Colonna& c : tutte) {
         bool coperta = false;
-        for (const combi::Colonna& t : tenute) coperta = coperta || Coperta(c, t, punti);
+        for (const combi::Colonna& t : tenute) coperta = coperta || Coperta(c, t, classe, punti);
         if (!coperta) __builtin_trap();
     }
 }
@@ -51,8 +53,8 @@ void ControllaGaranzia(const std::vector<combi::Colonna>& tutte, const std::vect
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t lunghezza) {
     using namespace combi;
     if (lunghezza < 2) return 0;
-    // A reduction may ask for 1..6 points; 0 and 7 check the refusal.
-    const int punti = dati[0] % 8;
+    // A reduction may ask for 1..k points in class k; 0 and 11 check the refusal.
+    const int punti = dati[0] % 12;
     const int stop = dati[1];
     if (FILE* f = std::fopen(FileDiLavoro().c_str(), "wb")) {
         std::fwrite(dati + 2, 1, lunghezza - 2, f);
@@ -65,7 +67,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t lunghezza) {
         const RisultatoRiduzione a = RiduciFileColonne(FileDiLavoro(), punti, oa, true);
         const RisultatoRiduzione b = RiduciFileColonne(FileDiLavoro(), punti, ob, false);
         if (!(a.colonne == b.colonne) || a.interrotto != b.interrotto) __builtin_trap();
-        if (punti < 1 || punti > 6) __builtin_trap();
+        if (punti < 1 || punti > 10) __builtin_trap();
         ControllaGaranzia(LeggiColonneDaRidurre(FileDiLavoro()), a.colonne, punti);
     } catch (const Errore& e) {
         if (e.descrizione().empty()) __builtin_trap();

@@ -12,8 +12,10 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <memory>
 
 #include "CombiFiltroA.h"
+#include "Formato.h"
 #include "UtilitaSchermo.h"
 
 namespace {
@@ -24,9 +26,27 @@ constexpr int kAngoloScatto = 120;
 }  // namespace
 
 F_VisualizzaColonne::F_VisualizzaColonne(const CombiFiltroA& controllo, QWidget* genitore)
-    : QDialog(genitore), controllo_(controllo) {
+    : F_VisualizzaColonne(Origine{[&controllo] { return int(controllo.QuantitaColonne()); },
+                                  [&controllo](int id) { return controllo.GetColonnaSviluppo(id); }},
+                          "Colonne condizionate", genitore) {}
+
+F_VisualizzaColonne::F_VisualizzaColonne(std::vector<combi::Colonna> colonne, const QString& titolo,
+                                         QWidget* genitore)
+    : F_VisualizzaColonne(Origine{}, titolo, genitore) {
+    auto elenco = std::make_shared<const std::vector<combi::Colonna>>(std::move(colonne));
+    origine_.quante = [elenco] { return int(elenco->size()); };
+    origine_.testo = [elenco](int id) {
+        if (id < 1 || size_t(id) > elenco->size()) return QString();
+        return QString::fromStdString(combi::TestoColonna((*elenco)[size_t(id) - 1], false));
+    };
+    ImpostaCursore();
+    Riempi();
+}
+
+F_VisualizzaColonne::F_VisualizzaColonne(Origine origine, const QString& titolo, QWidget* genitore)
+    : QDialog(genitore), origine_(std::move(origine)) {
     setObjectName("F_VisualizzaColonne");
-    setWindowTitle("Colonne condizionate");
+    setWindowTitle(titolo);
     CostruisciFinestra();
     ImpostaCursore();
     // valueChanged follows the slider while it is dragged and when it settles.
@@ -69,7 +89,7 @@ void F_VisualizzaColonne::CostruisciFinestra() {
 
 // With fewer than two columns there is nothing to page through.
 void F_VisualizzaColonne::ImpostaCursore() {
-    const int ultima = controllo_.QuantitaColonne();
+    const int ultima = origine_.quante ? origine_.quante() : 0;
     slider1_->setMinimum(1);
     slider1_->setMaximum(ultima < 2 ? 1 : ultima);
     slider1_->setEnabled(ultima >= 2);
@@ -89,12 +109,12 @@ void F_VisualizzaColonne::Riempi() {
     listView1_->clear();
     const int primo = slider1_->value();
     for (int id = primo; id < primo + righe; ++id) {
-        const QString numeri = controllo_.GetColonnaSviluppo(id);
+        const QString numeri = origine_.testo ? origine_.testo(id) : QString();
         if (numeri.isEmpty()) continue;
         auto* voce = new QTreeWidgetItem(listView1_, {QString::number(id), numeri});
         voce->setTextAlignment(0, Qt::AlignRight | Qt::AlignVCenter);
     }
-    const int quante = controllo_.QuantitaColonne();
+    const int quante = origine_.quante ? origine_.quante() : 0;
     labPosizione_->setText(quante == 0 ? QString("Nessuna colonna")
                                        : QString("colonna %1 di %2").arg(TestoContatore(primo), TestoContatore(quante)));
 }

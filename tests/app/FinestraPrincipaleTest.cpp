@@ -6,13 +6,18 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
+#include <QLabel>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QTableWidget>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include "../control/FakeDialoghi.h"
 #include "CombiFiltroA.h"
+#include "F_VerificaGaranzia.h"
 #include "FileRecenti.h"
 #include "FinestraPrincipale.h"
 
@@ -94,7 +99,8 @@ TEST_F(FinestraTest, DuringADevelopmentOnlyInterrompiIsEnabled) {
     QStringList abilitate;
     QTimer::singleShot(0, &f, [&] {
         for (const char* v : {"Nuovo", "Apri...", "Salva", "Stampa schedine...", "Sviluppo parallelo",
-                              "Processi di sviluppo...", "Verifica su archivio...", "Interrompi"})
+                              "Processi di sviluppo...", "Verifica su archivio...", "Verifica garanzia...",
+                              "Interrompi"})
             if (Voce(f, v)->isEnabled()) abilitate << v;
     });
     Voce(f, "Sviluppa sistema")->trigger();
@@ -104,6 +110,33 @@ TEST_F(FinestraTest, DuringADevelopmentOnlyInterrompiIsEnabled) {
     EXPECT_EQ(f.Controllo().QuantitaColonne(), 177100);
     ASSERT_FALSE(d.boxes.empty());
     EXPECT_TRUE(d.boxes.back().testo.startsWith("Fine sviluppo"));
+}
+
+// "Strumenti > Verifica garanzia..." checks the control's columns and picked
+// numbers. Picked 1..7, kept {1..6} alone, five drawn (Lotto): 7 drawn with
+// m - 1 others of 1..6 is the worst case, so m numbers make m - 1 points.
+TEST_F(FinestraTest, VerificaGaranziaChecksTheControlsColumns) {
+    FinestraPrincipale f(std::make_unique<FakeDialoghi>());
+    for (int n = 1; n <= 7; ++n) f.Controllo().SelezionaNumero(int16_t(n), true);
+    combi::Colonna sestina;
+    for (int p = 1; p <= 6; ++p) sestina[p] = uint8_t(p);
+    f.Controllo().ImpostaColonneSviluppo({combi::Colonna{}, sestina});
+    QAction* voce = Voce(f, "Verifica garanzia...");
+    ASSERT_NE(voce, nullptr);
+    QString colonne;
+    QStringList tabella;
+    QTimer::singleShot(0, &f, [&] {
+        auto* garanzia = qobject_cast<F_VerificaGaranzia*>(QApplication::activeModalWidget());
+        if (garanzia == nullptr) return;
+        colonne = garanzia->LabColonne()->text();
+        garanzia->CmdTabella()->click();
+        const QTableWidget* t = garanzia->GrdGaranzia();
+        for (int r = 0; r < t->rowCount(); ++r) tabella << t->item(r, 0)->text() + ">" + t->item(r, 1)->text();
+        garanzia->close();
+    });
+    voce->trigger();
+    EXPECT_EQ(colonne, "1");
+    EXPECT_EQ(tabella, (QStringList{"1>0", "2>1", "3>2", "4>3", "5>4"}));
 }
 
 }  // namespace

@@ -121,7 +121,7 @@ TEST(StatiPannello, NothingStartsWhileAReductionRuns) {
     b.c.SalvaFileColonne();
     bool pulsanteAbilitato = true, sviluppoAbilitato = true;
     QSignalSpy occupato(&b.c, &CombiFiltroA::OccupatoCambiato);
-    b.c.RegistraVistaRiduzione([&]() -> std::unique_ptr<combi::OsservatoreRiduzione> {
+    b.c.RegistraVistaRiduzione([&]() -> std::unique_ptr<combi::OsservatoreOttimizzazione> {
         pulsanteAbilitato = b.c.Pulsante("Open")->isEnabled();
         sviluppoAbilitato = b.c.Pulsante("SviluppaCond")->isEnabled();
         EXPECT_TRUE(b.c.Occupato());
@@ -133,6 +133,14 @@ TEST(StatiPannello, NothingStartsWhileAReductionRuns) {
     EXPECT_FALSE(b.c.Occupato());
     EXPECT_TRUE(b.c.Pulsante("Open")->isEnabled());
     ASSERT_EQ(occupato.size(), 2);
+    // What went in and what was kept: the C(12,6) = 924 columns developed.
+    EXPECT_TRUE(b.c.UltimaRiduzione().eseguita);
+    EXPECT_FALSE(b.c.UltimaRiduzione().interrotta);
+    EXPECT_EQ(b.c.UltimaRiduzione().ingresso, 924);
+    EXPECT_EQ(b.c.UltimaRiduzione().tenute, b.c.QuantitaColonne());
+    EXPECT_LT(b.c.QuantitaColonne(), 924);
+    b.c.RiduciColonne(cartella.filePath("manca.col"), 4);
+    EXPECT_FALSE(b.c.UltimaRiduzione().eseguita) << "a missing file reduces nothing";
 }
 
 }  // namespace

@@ -37,15 +37,16 @@ private:
 
 using test::Col;
 
-int Comuni(const Colonna& a, const Colonna& b) {
+int Comuni(const Colonna& a, const Colonna& b, int classe = 6) {
     int k = 0;
-    for (int p = 1; p <= 6; ++p)
-        for (int q = 1; q <= 6; ++q) k += a[p] == b[q];
+    for (int p = 1; p <= classe; ++p)
+        for (int q = 1; q <= classe; ++q) k += a[p] == b[q];
     return k;
 }
 
-// Columns drawn from the numbers 1..pool, with exact copies (the first six
-// shuffled, the tail changed) and copies with one number changed.
+// Columns of a class drawn from the numbers 1..pool, with exact copies (the
+// numbers shuffled, a tail after them changed: it is not compared) and copies
+// with one number changed.
 std::vector<Colonna> ColonneCasuali(uint32_t seme, size_t n, int pool, int classe = 6) {
     std::mt19937 rng(seme);
     std::vector<int> numeri(static_cast<size_t>(pool), 0);
@@ -56,14 +57,14 @@ std::vector<Colonna> ColonneCasuali(uint32_t seme, size_t n, int pool, int class
         Colonna c;
         if (caso < 2 && !v.empty()) {
             c = v[rng() % v.size()];
-            std::shuffle(c.Numeri.begin(), c.Numeri.begin() + 6, rng);
-            c[7] = uint8_t(rng() % 90 + 1);
+            std::shuffle(c.Numeri.begin(), c.Numeri.begin() + classe, rng);
+            c[classe + 1] = uint8_t(rng() % 90 + 1);
         } else if (caso < 4 && !v.empty()) {
             c = v[rng() % v.size()];
             std::shuffle(numeri.begin(), numeri.end(), rng);
             for (int x : numeri)
-                if (std::find(c.Numeri.begin(), c.Numeri.begin() + 6, x) == c.Numeri.begin() + 6) {
-                    c[int(rng() % 6) + 1] = uint8_t(x);
+                if (std::find(c.Numeri.begin(), c.Numeri.begin() + classe, x) == c.Numeri.begin() + classe) {
+                    c[int(rng() % unsigned(classe)) + 1] = uint8_t(x);
                     break;
                 }
         } else {
@@ -79,15 +80,15 @@ std::vector<Colonna> ColonneCasuali(uint32_t seme, size_t n, int pool, int class
 // The promise of a complete reduction: kept columns do not cover each other,
 // and every dropped column is covered by a kept one.
 void ControllaGaranzia(const std::vector<Colonna>& tutte, const std::vector<Colonna>& tenute, int t,
-                       bool completa) {
+                       bool completa, int classe = 6) {
     for (const Colonna& c : tutte) {
         const bool coperta = std::any_of(tenute.begin(), tenute.end(),
-                                         [&](const Colonna& k) { return Comuni(c, k) >= t; });
+                                         [&](const Colonna& k) { return Comuni(c, k, classe) >= t; });
         ASSERT_TRUE(coperta);
     }
     if (!completa) return;
     for (size_t a = 0; a < tenute.size(); ++a)
-        for (size_t b = a + 1; b < tenute.size(); ++b) ASSERT_LT(Comuni(tenute[a], tenute[b]), t);
+        for (size_t b = a + 1; b < tenute.size(); ++b) ASSERT_LT(Comuni(tenute[a], tenute[b], classe), t);
 }
 
 TEST(Riduzione, FastPathMatchesReferenceOnRandomSets) {
@@ -111,6 +112,66 @@ TEST(Riduzione, FastPathMatchesReferenceOnRandomSets) {
         if (c.n <= 1500) {
             ControllaGaranzia(v, a.colonne, c.t, true);
         }
+    }
+}
+
+// Every class 2..10 and every few points: the index (dense and sorted-pair
+// counts, pairs with fewer column bits above class 6) against the all-pairs loop.
+TEST(Riduzione, EveryClassFastPathMatchesReference) {
+    struct Caso { int classe; int t; size_t n; int pool; };
+    const Caso casi[] = {
+        {2, 1, 300, 12}, {2, 2, 300, 20}, {3, 1, 200, 30}, {3, 2, 500, 16},  {3, 3, 400, 10},
+        {4, 2, 800, 14}, {4, 3, 600, 12}, {5, 3, 600, 14}, {5, 4, 700, 12},  {5, 5, 300, 9},
+        {7, 4, 500, 14}, {7, 5, 600, 12}, {8, 5, 500, 14}, {8, 7, 300, 11},  {9, 6, 400, 14},
+        {9, 8, 300, 12}, {10, 5, 300, 16}, {10, 7, 600, 14}, {10, 9, 500, 13}, {10, 10, 200, 12},
+    };
+    for (const Caso& c : casi) {
+        SCOPED_TRACE("classe " + std::to_string(c.classe) + " t=" + std::to_string(c.t));
+        const std::vector<Colonna> v = ColonneCasuali(uint32_t(c.classe * 100 + c.t), c.n, c.pool, c.classe);
+        ASSERT_EQ(ClasseColonne(v), c.classe);
+        EXPECT_EQ(riduzione::ContaCoperture(v, c.t), riduzione::ContaCopertureRiferimento(v, c.t));
+        Registro veloce, riferimento;
+        const RisultatoRiduzione a = RiduciColonne(v, c.t, veloce);
+        const RisultatoRiduzione b = RiduciColonneRiferimento(v, c.t, riferimento);
+        EXPECT_EQ(a.colonne, b.colonne);
+        EXPECT_EQ(veloce.eventi, riferimento.eventi);
+        EXPECT_LT(a.colonne.size(), v.size());
+        ControllaGaranzia(v, a.colonne, c.t, true, c.classe);
+    }
+}
+
+// Small sets worked out by hand, in every class the counts have one largest.
+TEST(Riduzione, HandWorkedSetsOfOtherClasses) {
+    struct Caso { std::vector<Colonna> colonne; int t; std::vector<int32_t> conte; std::vector<int> tenute; };
+    const Caso casi[] = {
+        // Class 3 at 2 points: 1 shares {1,2} with 2 and {2,3} with 3; 2-3 share
+        // only 2, 4 shares one number with 2 and 3, 5 nothing. Counts 2,1,1,0,0:
+        // 1 comes first and eliminates 2 and 3; 4 and 5 cover nobody and stay.
+        {{Col({1, 2, 3}), Col({1, 2, 4}), Col({2, 3, 5}), Col({4, 5, 6}), Col({7, 8, 9})}, 2, {2, 1, 1, 0, 0},
+         {1, 4, 5}},
+        // Class 5 at 4 points: 2, 3 and 4 share four numbers with 1 and three with
+        // each other; 6 shares three with 2 and 3, two with 1 and 4. Counts
+        // 3,1,1,1,0,0: 1 eliminates 2, 3, 4.
+        {{Col({1, 2, 3, 4, 5}), Col({1, 2, 3, 4, 6}), Col({1, 2, 3, 5, 7}), Col({2, 3, 4, 5, 8}),
+          Col({10, 11, 12, 13, 14}), Col({1, 2, 6, 7, 8})},
+         4, {3, 1, 1, 1, 0, 0}, {1, 5, 6}},
+        // Class 2 at 1 point: 1-2 share 3, 2-3 share 4; 4 alone. Counts 1,2,1,0:
+        // 2 eliminates 1 and 3.
+        {{Col({1, 3}), Col({3, 4}), Col({4, 9}), Col({5, 6})}, 1, {1, 2, 1, 0}, {2, 4}},
+        // Class 10 at 9 points: 2 differs from 1 in one number, 3 in two. Counts
+        // 1,1,0 with a tie broken by the sort: the pair swaps, 2 is kept.
+        {{Col({1, 2, 3, 4, 5, 6, 7, 8, 9, 10}), Col({1, 2, 3, 4, 5, 6, 7, 8, 9, 11}),
+          Col({1, 2, 3, 4, 5, 6, 7, 8, 12, 13})},
+         9, {1, 1, 0}, {2, 3}},
+    };
+    for (const Caso& c : casi) {
+        SCOPED_TRACE("t=" + std::to_string(c.t));
+        EXPECT_EQ(riduzione::ContaCoperture(c.colonne, c.t), c.conte);
+        std::vector<Colonna> attese;
+        for (int i : c.tenute) attese.push_back(c.colonne[size_t(i) - 1]);
+        Registro r;
+        EXPECT_EQ(RiduciColonne(c.colonne, c.t, r).colonne, attese);
+        EXPECT_EQ(RiduciColonneRiferimento(c.colonne, c.t, r).colonne, attese);
     }
 }
 
@@ -199,6 +260,13 @@ TEST(Riduzione, RefusesColumnsWithoutSixNumbersAndBadPoints) {
         {{Col({1, 2, 3, 4, 5, 6}), Col({7, 7, 8, 9, 10, 11})}, 3, kErroreFormatoFile, "diversi"},
         {{Col({1, 2, 3, 4, 5, 6})}, 0, kErroreArgomento, "da 1 a 6"},
         {{Col({1, 2, 3, 4, 5, 6})}, 7, kErroreArgomento, "da 1 a 6"},
+        // Other classes: the points up to the class, the class 2..10, no column shorter than the first.
+        {{Col({1, 2, 3})}, 4, kErroreArgomento, "da 1 a 3"},
+        {{Col({5})}, 1, kErroreFormatoFile, "da 2 a 10: la colonna 1 ha 1 numeri"},
+        {{Col({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11})}, 3, kErroreFormatoFile, "da 2 a 10: la colonna 1 ha 11 numeri"},
+        {{Col({1, 2, 3, 4, 5, 6, 7}), Col({1, 2, 3, 4, 5, 6})}, 3, kErroreFormatoFile,
+         "La colonna 2 non ha sette numeri diversi da 1 a 90 nelle prime sette posizioni"},
+        {{Col({1, 2, 3}), Col({1, 2, 3}), Col({4, 4, 5})}, 2, kErroreFormatoFile, "La colonna 3 non ha tre numeri"},
     };
     for (const Caso& c : casi) {
         for (bool riferimento : {false, true}) {
@@ -212,6 +280,15 @@ TEST(Riduzione, RefusesColumnsWithoutSixNumbersAndBadPoints) {
             }
         }
     }
+}
+
+TEST(Riduzione, ClassOfASet) {
+    EXPECT_EQ(ClasseColonne({}), 0);
+    EXPECT_EQ(ClasseColonne({Col({4, 9})}), 2);
+    EXPECT_EQ(ClasseColonne({Col({1, 2, 3, 4, 5, 6, 7, 8, 9, 90}), Col({11, 12, 13, 14, 15, 16, 17, 18, 19, 20})}), 10);
+    // A longer column is compared on the first numbers: a class-6 file with a seventh byte.
+    EXPECT_EQ(ClasseColonne({Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 4, 5, 6, 7})}), 6);
+    EXPECT_THROW(ClasseColonne({Col({1, 2, 3, 4, 5}), Col({1, 2, 3, 4})}), Errore);
 }
 
 }  // namespace

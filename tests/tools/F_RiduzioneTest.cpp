@@ -4,10 +4,14 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QCheckBox>
 #include <QLabel>
+#include <QLineSeries>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSpinBox>
+#include <QStandardItemModel>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -23,6 +27,7 @@
 #include "F_Riduzione.h"
 #include "FileColonne.h"
 #include "Riduzione.h"
+#include "RiduzioneOttimizzata.h"
 #include "UtilitaSchermo.h"
 
 namespace {
@@ -77,6 +82,51 @@ std::vector<Colonna> Tenute(const CombiFiltroA& c) {
     return v;
 }
 
+Colonna Col(std::initializer_list<int> numeri) {
+    Colonna c;
+    int p = 1;
+    for (int n : numeri) c[p++] = static_cast<uint8_t>(n);
+    return c;
+}
+
+// Every column of `classe` numbers out of 1..`numeri`, in lexicographic order.
+std::vector<Colonna> Integrale(int numeri, int classe) {
+    std::vector<Colonna> v;
+    std::vector<int> scelta(static_cast<size_t>(classe));
+    std::function<void(int, int)> scegli = [&](int posto, int da) {
+        if (posto == classe) {
+            Colonna c;
+            for (int p = 0; p < classe; ++p) c[p + 1] = static_cast<uint8_t>(scelta[size_t(p)]);
+            v.push_back(c);
+            return;
+        }
+        for (int n = da; n <= numeri; ++n) scelta[size_t(posto)] = n, scegli(posto + 1, n + 1);
+    };
+    scegli(0, 1);
+    return v;
+}
+
+// The numbers two columns of class k have in common, compared one by one.
+int Comuni(const Colonna& a, const Colonna& b, int classe) {
+    int comuni = 0;
+    for (int i = 1; i <= classe; ++i)
+        for (int j = 1; j <= classe; ++j) comuni += a[i] == b[j] ? 1 : 0;
+    return comuni;
+}
+
+// The guarantee checked by brute force: every input column shares at least
+// `punti` numbers with a kept one, and every kept column is an input column.
+void ControllaGaranzia(const std::vector<Colonna>& tenute, const std::vector<Colonna>& ingresso, int punti,
+                       int classe) {
+    for (const Colonna& t : tenute)
+        EXPECT_NE(std::find(ingresso.begin(), ingresso.end(), t), ingresso.end()) << "a kept column not in the file";
+    for (size_t i = 0; i < ingresso.size(); ++i) {
+        const bool coperta = std::any_of(tenute.begin(), tenute.end(),
+                                         [&](const Colonna& t) { return Comuni(t, ingresso[i], classe) >= punti; });
+        EXPECT_TRUE(coperta) << "column " << i + 1 << " is not covered";
+    }
+}
+
 // A control with scripted dialogs, a reduction window on it and a folder
 // for the columns files.
 struct BancoRiduzione {
@@ -118,32 +168,40 @@ TEST(F_Riduzione, OpensWithThreeGuaranteesAndReadsTheChosenFile) {
     QComboBox* cmb = r.f.cmbRiduzione();
     ASSERT_EQ(cmb->count(), 3);
     for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(cmb->itemText(i), QString("6 - %1").arg(i + 1));
+        EXPECT_EQ(cmb->itemText(i), QString("N - %1").arg(i + 1));
         EXPECT_EQ(cmb->itemData(i).toInt(), i + 1);
     }
     EXPECT_EQ(cmb->currentIndex(), 0);
     EXPECT_TRUE(r.f.XPButton1(0)->isEnabled());
 
-    // Cancelled: nothing shown. The dialog starts in the program's folder.
+    // Cancelled: nothing shown. The dialog starts in the systems folder, or
+    // in the program's when the control names none that exists.
     r.f.Command1()->click();
-    ASSERT_EQ(r.b.dialoghi.dialoghiFile.size(), 1u);
-    const DialogoFile& d = r.b.dialoghi.dialoghiFile[0];
+    r.b.c.setDirSistemi(r.cartella.path());
+    r.f.Command1()->click();
+    ASSERT_EQ(r.b.dialoghi.dialoghiFile.size(), 2u);
+    const DialogoFile& d = r.b.dialoghi.dialoghiFile[1];
     EXPECT_EQ(d.titolo, "Apri file");
     EXPECT_EQ(d.filtro, "File colonne (*.col)|*.col");
     EXPECT_EQ(d.nome, "*.col");
     EXPECT_EQ(d.estensione, ".col");
-    EXPECT_EQ(QDir(d.cartella), QDir(CartellaProgramma()));
+    EXPECT_EQ(QDir(r.b.dialoghi.dialoghiFile[0].cartella), QDir(CartellaProgramma()));
+    EXPECT_EQ(QDir(d.cartella), QDir(r.cartella.path()));
     EXPECT_TRUE(r.f.labFile()->text().isEmpty());
 
     const QString file = r.Scrivi("Sette.col", ColonneCasuali(1, 7, 20));
     r.Scegli(file);
     EXPECT_EQ(r.f.labFile()->text(), file);
     EXPECT_EQ(r.f.LabColonne()->text(), "7");
+    EXPECT_EQ(r.f.LabClasse()->text(), "6");
 
-    // A file cut inside a record shows the fraction, as its length says.
+    // A file cut inside a record shows the fraction, as its length says; the
+    // whole records are what is reduced.
     QFile troncato(r.cartella.filePath("Troncato.col"));
     ASSERT_TRUE(troncato.open(QIODevice::WriteOnly));
-    troncato.write(QByteArray(50, '\1'));
+    QFile intero(file);
+    ASSERT_TRUE(intero.open(QIODevice::ReadOnly));
+    troncato.write(intero.read(50));
     troncato.close();
     r.Scegli(troncato.fileName());
     EXPECT_EQ(r.f.LabColonne()->text(), "2.5");
@@ -198,8 +256,9 @@ TEST(F_Riduzione, KeepsTheEngineColumnsForEachGuarantee) {
         EXPECT_EQ(fase, combi::kFaseAnalisi);
         EXPECT_TRUE(ridotte.isEmpty());
         EXPECT_FALSE(abilitati) << "start, guarantee and file locked during the run";
-        EXPECT_TRUE(r.f.LabInfo()->text().isEmpty());
-        EXPECT_EQ(r.f.PanPerc()->value(), 0);
+        EXPECT_EQ(r.f.LabInfo()->text(),
+                  QString("Riduzione terminata: 400 colonne in ingresso, %1 tenute").arg(attese.size() - 1));
+        EXPECT_EQ(r.f.PanPerc()->value(), 100);
         EXPECT_FALSE(r.f.XPButton1(0)->isEnabled()) << "start waits for another guarantee";
         EXPECT_TRUE(r.f.cmbRiduzione()->isEnabled());
         EXPECT_TRUE(r.f.Command1()->isEnabled());
@@ -209,13 +268,189 @@ TEST(F_Riduzione, KeepsTheEngineColumnsForEachGuarantee) {
     EXPECT_TRUE(r.b.dialoghi.boxes.empty());
 }
 
+// A file of class N reduced with "N - k" keeps what the engine keeps with
+// N - k shared numbers; the result is a cover of the file (checked one
+// column against another) in which no kept column covers another, and on
+// the small files it has the size worked out by hand.
+TEST(F_Riduzione, ReducesColumnsOfAnyClassWithNMinusTheEntry) {
+    struct Caso {
+        const char* nome;
+        std::vector<Colonna> colonne;
+        int classe, voce, punti;
+        int tenuteAMano;  // -1: not worked out
+    };
+    // Class 3, two shared numbers: {1,2,3}, {1,2,4} and {1,2,5} cover one
+    // another, {6,7,8} only itself: two columns.
+    const std::vector<Colonna> tre = {Col({1, 2, 3}), Col({1, 2, 4}), Col({1, 2, 5}), Col({6, 7, 8})};
+    // Class 5: {1,2,3,4,5} and {1,2,3,4,6} share four numbers, {1,2,3,7,8}
+    // three with each, {10..14} none: three columns with four shared
+    // numbers, two with three.
+    const std::vector<Colonna> cinque = {Col({1, 2, 3, 4, 5}), Col({1, 2, 3, 4, 6}), Col({1, 2, 3, 7, 8}),
+                                         Col({10, 11, 12, 13, 14})};
+    const Caso casi[] = {
+        {"classe 3 a mano, N - 1", tre, 3, 0, 2, 2},
+        {"classe 5 a mano, N - 1", cinque, 5, 0, 4, 3},
+        {"classe 5 a mano, N - 2", cinque, 5, 1, 3, 2},
+        {"classe 5, N - 2", ColonneCasuali(21, 300, 12, 5), 5, 1, 3, -1},
+        {"classe 5, N - 3", ColonneCasuali(22, 300, 11, 5), 5, 2, 2, -1},
+        {"classe 3, N - 1", ColonneCasuali(23, 200, 10, 3), 3, 0, 2, -1},
+        {"classe 3, N - 2", ColonneCasuali(24, 200, 10, 3), 3, 1, 1, -1},
+        {"classe 2, N - 1", ColonneCasuali(25, 60, 14, 2), 2, 0, 1, -1},
+        {"classe 10, N - 3", ColonneCasuali(26, 120, 14, 10), 10, 2, 7, -1},
+    };
+    for (const Caso& c : casi) {
+        SCOPED_TRACE(c.nome);
+        BancoRiduzione r;
+        r.Scegli(r.Scrivi("Classe.col", c.colonne));
+        ASSERT_TRUE(r.b.dialoghi.boxes.empty());
+        EXPECT_EQ(r.f.LabClasse()->text(), QString::number(c.classe));
+        // Entries asking for fewer than one shared number are off.
+        auto* voci = qobject_cast<QStandardItemModel*>(r.f.cmbRiduzione()->model());
+        ASSERT_NE(voci, nullptr);
+        for (int k = 1; k <= 3; ++k) EXPECT_EQ(voci->item(k - 1)->isEnabled(), c.classe - k >= 1) << k;
+        r.Garanzia(c.voce == 0 ? 1 : 0);
+        r.Garanzia(c.voce);
+        r.Avvia();
+        ASSERT_TRUE(r.b.dialoghi.boxes.empty()) << r.b.dialoghi.boxes[0].testo.toStdString();
+
+        const std::vector<Colonna> tenute = Tenute(r.b.c);
+        EXPECT_EQ(tenute, Attese(c.colonne, c.punti));
+        const std::vector<Colonna> senzaZero(tenute.begin() + 1, tenute.end());
+        ControllaGaranzia(senzaZero, c.colonne, c.punti, c.classe);
+        for (size_t i = 0; i < senzaZero.size(); ++i)
+            for (size_t j = i + 1; j < senzaZero.size(); ++j)
+                EXPECT_LT(Comuni(senzaZero[i], senzaZero[j], c.classe), c.punti) << "kept " << i << " and " << j;
+        if (c.tenuteAMano >= 0) {
+            EXPECT_EQ(int(senzaZero.size()), c.tenuteAMano);
+        }
+        EXPECT_LT(senzaZero.size(), c.colonne.size());
+        EXPECT_EQ(r.f.LabInfo()->text(), QString("Riduzione terminata: %1 colonne in ingresso, %2 tenute")
+                                             .arg(c.colonne.size())
+                                             .arg(senzaZero.size()));
+        EXPECT_EQ(r.f.PanPerc()->value(), 100);
+    }
+}
+
+// A class-2 file offers "N - 1" only; the entry chosen before falls back to it.
+TEST(F_Riduzione, AClassTwoFileOffersOnlyTheFirstEntry) {
+    BancoRiduzione r;
+    r.Garanzia(2);
+    r.Scegli(r.Scrivi("Ambi.col", {Col({1, 2}), Col({1, 3}), Col({4, 5})}));
+    EXPECT_EQ(r.f.cmbRiduzione()->currentIndex(), 0);
+    r.Avvia();
+    // {1,2} and {1,3} share one number: one of them and {4,5}.
+    EXPECT_EQ(r.b.c.QuantitaColonne(), 2);
+}
+
+TEST(F_Riduzione, OttimizzaTakesTheSecondsOnlyWhenTicked) {
+    BancoRiduzione r;
+    QCheckBox* ottimizza = r.f.ChkOttimizza();
+    QSpinBox* secondi = r.f.TxtSecondi();
+    EXPECT_EQ(ottimizza->text(), "Ottimizza");
+    EXPECT_FALSE(ottimizza->isChecked());
+    EXPECT_EQ(secondi->value(), 60);
+    EXPECT_EQ(secondi->minimum(), 1);
+    EXPECT_EQ(secondi->maximum(), 3600);
+    EXPECT_FALSE(secondi->isEnabled());
+    EXPECT_FALSE(r.f.GraficoMigliori()->isVisibleTo(&r.f));
+    ottimizza->setChecked(true);
+    EXPECT_TRUE(secondi->isEnabled());
+    EXPECT_TRUE(r.f.GraficoMigliori()->isVisibleTo(&r.f));
+    ottimizza->setChecked(false);
+    EXPECT_FALSE(secondi->isEnabled());
+}
+
+// Every column of 1..10 in class 6 (210) with three shared numbers, searched
+// for one second: never more columns than the plain reduction, still a cover
+// of the file; the best sizes were shown as they came, and the chart ends on
+// the size kept.
+TEST(F_Riduzione, OttimizzaKeepsTheGuaranteeWithNoMoreColumnsThanThePlainReduction) {
+    BancoRiduzione r;
+    const std::vector<Colonna> colonne = Integrale(10, 6);
+    ASSERT_EQ(colonne.size(), 210u);
+    r.Scegli(r.Scrivi("Dieci.col", colonne));
+    r.f.ChkOttimizza()->setChecked(true);
+    r.f.TxtSecondi()->setValue(1);
+    r.Garanzia(2);  // "N - 3": three shared numbers
+    r.f.show();
+    QStringList visti;
+    QTimer spia;
+    spia.setInterval(0);
+    QObject::connect(&spia, &QTimer::timeout, [&] {
+        if (r.f.Occupato() && (visti.isEmpty() || visti.last() != r.f.LabInfo()->text()))
+            visti << r.f.LabInfo()->text();
+    });
+    spia.start();
+    r.Avvia();
+    spia.stop();
+
+    const std::vector<Colonna> tenute = Tenute(r.b.c);
+    const std::vector<Colonna> senzaZero(tenute.begin() + 1, tenute.end());
+    ControllaGaranzia(senzaZero, colonne, 3, 6);
+    EXPECT_LE(tenute.size(), Attese(colonne, 3).size());
+    EXPECT_EQ(r.f.LabInfo()->text(),
+              QString("Ottimizzazione terminata: 210 colonne in ingresso, %1 tenute").arg(senzaZero.size()));
+    EXPECT_EQ(r.f.LabColonneRid()->text(), QString::number(senzaZero.size()));
+    EXPECT_EQ(r.f.PanPerc()->value(), 100);
+    const auto migliori = std::find_if(visti.begin(), visti.end(),
+                                       [](const QString& t) { return t.startsWith("Migliore finora: "); });
+    EXPECT_NE(migliori, visti.end()) << visti.join(" | ").toStdString();
+    const QList<QPointF> punti = r.f.SerieMigliori()->points();
+    ASSERT_FALSE(punti.isEmpty());
+    EXPECT_EQ(punti.last().y(), double(senzaZero.size()));
+    for (int i = 1; i < punti.size(); ++i) {
+        EXPECT_LE(punti[i].y(), punti[i - 1].y()) << "the best size never grows";
+        EXPECT_GE(punti[i].x(), punti[i - 1].x());
+    }
+    EXPECT_TRUE(r.f.isVisible());
+    EXPECT_TRUE(r.b.dialoghi.boxes.empty());
+}
+
+// Stop during the search keeps the best set found so far, and the window
+// stays open to show it.
+TEST(F_Riduzione, StopDuringOttimizzaKeepsTheBestSetAndTheWindow) {
+    BancoRiduzione r;
+    const std::vector<Colonna> colonne = Integrale(11, 6);
+    r.Scegli(r.Scrivi("Undici.col", colonne));
+    r.f.ChkOttimizza()->setChecked(true);
+    r.f.TxtSecondi()->setValue(3600);
+    r.Garanzia(2);
+    r.f.show();
+    r.b.dialoghi.risposte.push_back(true);
+    QTimer spia;
+    spia.setInterval(0);
+    bool chiesto = false;
+    QObject::connect(&spia, &QTimer::timeout, [&] {
+        const QString info = r.f.LabInfo()->text();
+        if (chiesto || !r.f.Occupato() || !(info == combi::kFaseOttimizzazione || info.startsWith("Migliore finora: ")))
+            return;
+        chiesto = true;
+        r.f.XPButton1(1)->click();
+    });
+    spia.start();
+    r.Avvia();
+    spia.stop();
+
+    ASSERT_TRUE(chiesto);
+    ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
+    EXPECT_EQ(r.b.dialoghi.boxes[0].testo, "Interrompere il processo di riduzione ? ");
+    const std::vector<Colonna> tenute = Tenute(r.b.c);
+    const std::vector<Colonna> senzaZero(tenute.begin() + 1, tenute.end());
+    ControllaGaranzia(senzaZero, colonne, 3, 6);
+    EXPECT_LE(tenute.size(), Attese(colonne, 3).size());
+    EXPECT_EQ(r.f.LabInfo()->text(),
+              QString("Ottimizzazione interrotta: 462 colonne in ingresso, %1 tenute").arg(senzaZero.size()));
+    EXPECT_TRUE(r.f.isVisible());
+    EXPECT_FALSE(r.f.Occupato());
+}
+
 TEST(F_Riduzione, StopIsAskedAndClosesTheWindowOnlyOnYes) {
     const std::vector<Colonna> colonne = ColonneCasuali(11, 300, 13);
     for (const bool si : {false, true}) {
         SCOPED_TRACE(si ? "Sì" : "No");
         BancoRiduzione r;
         r.Scegli(r.Scrivi("Trecento.col", colonne));
-        r.Garanzia(2);  // "6 - 3": three shared numbers
+        r.Garanzia(2);  // "N - 3": three shared numbers
         r.f.show();
         r.b.dialoghi.risposte.push_back(si);
         bool apertaDopoChiusura = false;
@@ -248,43 +483,76 @@ TEST(F_Riduzione, IdleCloseButtonClosesWithoutAsking) {
     EXPECT_TRUE(r.b.dialoghi.boxes.empty());
 }
 
-TEST(F_Riduzione, ReportsMissingEmptyAndBadFilesAndKeepsTheColumns) {
+TEST(F_Riduzione, ReportsMissingAndEmptyFilesAndKeepsTheColumns) {
     BancoRiduzione r;
     std::vector<Colonna> sviluppate(3);
     sviluppate[1][1] = 1, sviluppate[2][1] = 2;
     r.b.c.ImpostaColonneSviluppo(sviluppate);
-
-    std::vector<Colonna> classe5 = ColonneCasuali(3, 4, 30, 5);
-    std::vector<Colonna> doppione = ColonneCasuali(3, 4, 30);
-    doppione[2][4] = doppione[2][3];  // a number twice in the first six
     struct Caso {
         const char* nome;
         QString file;
-        QString tipo, titolo, testo;
+        QString tipo, testo;
     };
     const Caso casi[] = {
-        {"nessun file scelto", QString(), "critico", QString(), "Il file delle colonne non esiste"},
-        {"vuoto", r.Scrivi("Vuoto.col", {}), "esclamazione", QString(),
-         "Il file delle colonne non contiene colonne"},
-        {"classe 5", r.Scrivi("Cinque.col", classe5), "critico", "CombiFiltro.RiduciColonne",
-         "321- La colonna 1 non ha sei numeri diversi da 1 a 90 nelle prime sei posizioni"},
-        {"numero ripetuto", r.Scrivi("Doppio.col", doppione), "critico", "CombiFiltro.RiduciColonne",
-         "321- La colonna 3 non ha sei numeri diversi da 1 a 90 nelle prime sei posizioni"},
+        {"nessun file scelto", QString(), "critico", "Il file delle colonne non esiste"},
+        {"vuoto", r.Scrivi("Vuoto.col", {}), "esclamazione", "Il file delle colonne non contiene colonne"},
     };
     for (const Caso& c : casi) {
         SCOPED_TRACE(c.nome);
         r.b.dialoghi.boxes.clear();
         if (!c.file.isEmpty()) r.Scegli(c.file);
+        EXPECT_TRUE(r.b.dialoghi.boxes.empty()) << "accepted when chosen";
         r.Garanzia(1), r.Garanzia(0);
         r.Avvia();
         ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
         EXPECT_EQ(r.b.dialoghi.boxes[0].tipo, c.tipo);
-        EXPECT_EQ(r.b.dialoghi.boxes[0].titolo, c.titolo);
         EXPECT_EQ(r.b.dialoghi.boxes[0].testo, c.testo);
         EXPECT_EQ(Tenute(r.b.c), sviluppate);
         EXPECT_EQ(r.f.LabColonneRid()->text(), "2") << "the control's columns, unchanged";
+        EXPECT_TRUE(r.f.LabInfo()->text().isEmpty()) << "nothing was reduced";
         EXPECT_FALSE(r.f.Occupato());
         EXPECT_TRUE(r.f.cmbRiduzione()->isEnabled());
+    }
+}
+
+// Columns of a class outside 2..10, or of mixed classes, are refused when the
+// file is chosen, with a box that says why; the file chosen before stays.
+TEST(F_Riduzione, RefusesAFileOfAnotherClassOrOfMixedClassesWhenChosen) {
+    BancoRiduzione r;
+    const QString buono = r.Scrivi("Buono.col", ColonneCasuali(3, 5, 30, 4));
+    r.Scegli(buono);
+    ASSERT_TRUE(r.b.dialoghi.boxes.empty());
+    ASSERT_EQ(r.f.Classe(), 4);
+
+    std::vector<Colonna> misto = ColonneCasuali(3, 4, 30, 6);
+    misto[2][6] = 0;  // a class-5 column among class-6 ones
+    std::vector<Colonna> doppione = ColonneCasuali(3, 4, 30);
+    doppione[2][4] = doppione[2][3];  // a number twice
+    struct Caso {
+        const char* nome;
+        std::vector<Colonna> colonne;
+        const char* motivo;
+    };
+    const Caso casi[] = {
+        {"classe 11", ColonneCasuali(4, 3, 40, 11), "la classe delle colonne deve essere da 2 a 10: la colonna 1 ha 11 numeri"},
+        {"classe 1", ColonneCasuali(4, 3, 40, 1), "la classe delle colonne deve essere da 2 a 10: la colonna 1 ha 1 numeri"},
+        {"classi diverse", misto, "la colonna 3 non ha"},
+        {"numero ripetuto", doppione, "la colonna 3 non ha"},
+    };
+    for (const Caso& c : casi) {
+        SCOPED_TRACE(c.nome);
+        r.b.dialoghi.boxes.clear();
+        r.Scegli(r.Scrivi(QString(c.nome) + ".col", c.colonne));
+        ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
+        const BoxMostrato& box = r.b.dialoghi.boxes[0];
+        EXPECT_EQ(box.tipo, "esclamazione");
+        EXPECT_EQ(box.titolo, "Riduzione colonne");
+        EXPECT_TRUE(box.testo.startsWith(QString("Le colonne di questo file non si possono ridurre: ") + c.motivo))
+            << box.testo.toStdString();
+        EXPECT_TRUE(box.testo.endsWith("Si riducono file con colonne tutte della stessa classe, da 2 a 10."));
+        EXPECT_EQ(r.f.labFile()->text(), buono);
+        EXPECT_EQ(r.f.LabColonne()->text(), "5");
+        EXPECT_EQ(r.f.Classe(), 4);
     }
 }
 
@@ -393,6 +661,8 @@ TEST(Screenshot, Riduzione) {
     BancoRiduzione r;
     r.Scegli(r.Scrivi("Esempio.col", ColonneCasuali(2026, 5000, 24)));
     r.Garanzia(1);
+    r.f.ChkOttimizza()->setChecked(true);
+    r.f.TxtSecondi()->setValue(3);
     r.f.show();
     r.Avvia();
     QTest::qWait(200);

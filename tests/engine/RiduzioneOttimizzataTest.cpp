@@ -1,0 +1,187 @@
+#include <gtest/gtest.h>
+
+#include "ColonnaDiProva.h"
+
+#include <algorithm>
+#include <random>
+
+#include "Errore.h"
+#include "Garanzia.h"
+#include "RicercaLocale.h"
+#include "RiduzioneOttimizzata.h"
+
+namespace combi {
+namespace {
+
+using test::Col;
+
+// Every improvement reported, and a stop from the k-th pump (0: never).
+class Registro : public OsservatoreOttimizzazione {
+public:
+    explicit Registro(int stopAllaPompa = 0) : stop_(stopAllaPompa) {}
+    void MigliorTrovato(std::size_t colonne, double secondi) override {
+        migliori.push_back(colonne);
+        EXPECT_GE(secondi, 0.0);
+    }
+    void ElaboraMessaggi() override { ++pompe; }
+    bool RichiestaStop() override { return stop_ > 0 && pompe >= stop_; }
+    void Fase(const std::string& testo) override { eventi.push_back("F" + testo); }
+    void Percentuale(int percento) override { eventi.push_back("P" + std::to_string(percento)); }
+    std::vector<size_t> migliori;
+    std::vector<std::string> eventi;
+    int pompe = 0;
+
+private:
+    int stop_;
+};
+
+// Columns of a class drawn from a small pool of numbers, so that they cover each other.
+std::vector<Colonna> Casuali(uint32_t seme, size_t n, int pool, int classe) {
+    std::mt19937 rng(seme);
+    std::vector<int> numeri;
+    for (int x = 1; x <= pool; ++x) numeri.push_back(x * 89 / pool);
+    std::vector<Colonna> v;
+    while (v.size() < n) {
+        std::shuffle(numeri.begin(), numeri.end(), rng);
+        Colonna c;
+        for (int p = 1; p <= classe; ++p) c[p] = uint8_t(numeri[size_t(p) - 1]);
+        v.push_back(c);
+    }
+    return v;
+}
+
+// True when `parte` is `tutto` with some columns left out, in order.
+bool Sottosequenza(const std::vector<Colonna>& parte, const std::vector<Colonna>& tutto) {
+    size_t j = 0;
+    for (const Colonna& c : parte) {
+        while (j < tutto.size() && !(tutto[j] == c)) ++j;
+        if (j++ == tutto.size()) return false;
+    }
+    return true;
+}
+
+TEST(RiduzioneOttimizzata, ValidNeverLargerAndRepeatableOnRandomSets) {
+    struct Caso { uint32_t seme; size_t n; int pool; int classe; int punti; };
+    const Caso casi[] = {
+        {1, 300, 12, 6, 3}, {2, 500, 14, 6, 4}, {3, 400, 11, 5, 3}, {4, 300, 16, 4, 2},
+        {5, 250, 13, 7, 5}, {6, 200, 9, 3, 2},  {7, 400, 15, 6, 5}, {8, 150, 14, 10, 7},
+    };
+    size_t piuPiccoli = 0;
+    for (const Caso& c : casi) {
+        SCOPED_TRACE("seme " + std::to_string(c.seme));
+        const std::vector<Colonna> v = Casuali(c.seme, c.n, c.pool, c.classe);
+        OsservatoreRiduzione muto;
+        const size_t avido = RiduciColonne(v, c.punti, muto).colonne.size();
+        for (uint64_t seme : {1u, 2u, 3u}) {
+            OpzioniOttimizzazione opzioni;
+            opzioni.secondi = 1e6;  // the steps end the run, not the clock
+            opzioni.seme = seme;
+            opzioni.passiMassimi = 3000;
+            Registro a, b;
+            const RisultatoRiduzione r = RiduciColonneOttimizzate(v, c.punti, opzioni, a);
+            EXPECT_FALSE(r.interrotto);
+            EXPECT_LE(r.colonne.size(), avido);
+            EXPECT_TRUE(CercaBuchi(r.colonne, v, c.punti, muto).empty());
+            EXPECT_TRUE(Sottosequenza(r.colonne, v));
+            // Improvements strictly decreasing, the last one the result.
+            ASSERT_FALSE(a.migliori.empty());
+            EXPECT_TRUE(std::is_sorted(a.migliori.rbegin(), a.migliori.rend()));
+            EXPECT_EQ(std::adjacent_find(a.migliori.begin(), a.migliori.end()), a.migliori.end());
+            EXPECT_EQ(a.migliori.back(), r.colonne.size());
+            EXPECT_LE(a.migliori.front(), avido);
+            // The search is announced after the greedy phases, and ends as they do.
+            EXPECT_NE(std::find(a.eventi.begin(), a.eventi.end(), std::string("F") + kFaseOttimizzazione),
+                      a.eventi.end());
+            ASSERT_GE(a.eventi.size(), 2u);
+            EXPECT_EQ(std::vector<std::string>(a.eventi.end() - 2, a.eventi.end()),
+                      (std::vector<std::string>{"F", "P0"}));
+            // The same seed and steps: the same columns.
+            EXPECT_EQ(RiduciColonneOttimizzate(v, c.punti, opzioni, b).colonne, r.colonne);
+            piuPiccoli += r.colonne.size() < avido;
+        }
+    }
+    // The search is worth running: most of these sets end below the greedy size.
+    EXPECT_GE(piuPiccoli, 12u);
+}
+
+// Every 6-number column of 1..n: the greedy size, which the search must beat,
+// comes from the plain reduction of the same input.
+TEST(RiduzioneOttimizzata, IntegralDesignsEndBelowTheGreedySize) {
+    struct Caso { int n; int punti; };
+    for (const Caso& c : {Caso{15, 3}, Caso{12, 4}, Caso{11, 5}}) {
+        std::vector<int> numeri;
+        for (int x = 1; x <= c.n; ++x) numeri.push_back(x);
+        const std::vector<Colonna> v = ColonneIntegrali(numeri, 6);
+        OsservatoreRiduzione muto;
+        const size_t avido = RiduciColonne(v, c.punti, muto).colonne.size();
+        OpzioniOttimizzazione opzioni;
+        opzioni.secondi = 1e6;
+        opzioni.passiMassimi = 20000;
+        Registro r;
+        const RisultatoRiduzione ottima = RiduciColonneOttimizzate(v, c.punti, opzioni, r);
+        EXPECT_LT(ottima.colonne.size(), avido) << c.n << " numeri, " << c.punti << " punti";
+        EXPECT_TRUE(CercaBuchi(ottima.colonne, v, c.punti, muto).empty());
+    }
+}
+
+// The search itself: every set it reports as a new best covers the whole
+// input (checked pair by pair here, on all the numbers of the class), and the
+// bests shrink by at least one column each time.
+TEST(RiduzioneOttimizzata, EveryBestOfTheSearchCovers) {
+    struct Caso { uint32_t seme; int pool; int classe; int punti; };
+    for (const Caso& c : {Caso{21, 12, 6, 3}, Caso{22, 13, 5, 3}, Caso{23, 15, 8, 5}, Caso{24, 10, 3, 2}}) {
+        const std::vector<Colonna> v = Casuali(c.seme, 300, c.pool, c.classe);
+        const auto Comuni = [&](const Colonna& a, const Colonna& b) {
+            int k = 0;
+            for (int p = 1; p <= c.classe; ++p)
+                for (int q = 1; q <= c.classe; ++q) k += a[p] == b[q];
+            return k;
+        };
+        std::vector<uint32_t> tutte(v.size());
+        for (uint32_t i = 0; i < tutte.size(); ++i) tutte[i] = i;
+        riduzione::RicercaLocale ricerca(v, c.classe, c.punti, tutte, c.seme);
+        size_t precedente = ricerca.Migliore().size() + 1;
+        for (int passo = 0; passo < 4000; ++passo) {
+            if (passo > 0 && !ricerca.Passo()) continue;
+            const std::vector<uint32_t>& m = ricerca.Migliore();
+            ASSERT_LT(m.size(), precedente);
+            precedente = m.size();
+            ASSERT_TRUE(std::is_sorted(m.begin(), m.end()));
+            for (const Colonna& x : v)
+                ASSERT_TRUE(std::any_of(m.begin(), m.end(), [&](uint32_t k) { return Comuni(x, v[k]) >= c.punti; }))
+                    << "seme " << c.seme << " passo " << passo;
+        }
+        EXPECT_LT(precedente, v.size() / 4);
+    }
+}
+
+TEST(RiduzioneOttimizzata, StopSmallSetsAndRefusals) {
+    const std::vector<Colonna> v = Casuali(9, 400, 12, 6);
+    OsservatoreRiduzione muto;
+    const std::vector<Colonna> avido = RiduciColonne(v, 3, muto).colonne;
+    OpzioniOttimizzazione opzioni;
+    opzioni.secondi = 1e6;
+    // Stopped during the greedy reduction: its result, as RiduciColonne gives it.
+    Registro presto(1);
+    const RisultatoRiduzione a = RiduciColonneOttimizzate(v, 3, opzioni, presto);
+    EXPECT_TRUE(a.interrotto);
+    Registro presto2(1);
+    EXPECT_EQ(a.colonne, RiduciColonne(v, 3, presto2).colonne);
+    // Stopped in the search (the greedy phase pumps once per column, before the
+    // sort and per position): still a valid set.
+    Registro tardi(int(2 * v.size() + 2));
+    const RisultatoRiduzione b = RiduciColonneOttimizzate(v, 3, opzioni, tardi);
+    EXPECT_TRUE(b.interrotto);
+    EXPECT_LE(b.colonne.size(), avido.size());
+    EXPECT_TRUE(CercaBuchi(b.colonne, v, 3, muto).empty());
+    // Nothing to search: no column, or one.
+    Registro r;
+    EXPECT_TRUE(RiduciColonneOttimizzate({}, 3, opzioni, r).colonne.empty());
+    const std::vector<Colonna> una = {Col({1, 2, 3, 4, 5, 6})};
+    EXPECT_EQ(RiduciColonneOttimizzate(una, 3, opzioni, r).colonne, una);
+    EXPECT_THROW(RiduciColonneOttimizzate(v, 7, opzioni, r), Errore);
+    EXPECT_THROW(RiduciColonneOttimizzate({Col({1, 2, 3}), Col({1, 2})}, 2, opzioni, r), Errore);
+}
+
+}  // namespace
+}  // namespace combi
