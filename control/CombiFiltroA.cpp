@@ -6,9 +6,7 @@
 #include "ChiaviComandi.h"
 
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDateTime>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QListWidget>
 
@@ -23,6 +21,7 @@
 #include "GrigliaNumeri.h"
 #include "LetturaNumero.h"
 #include "Misure.h"
+#include "PompaEventi.h"
 #include "RegistroControllo.h"
 #include "Riduzione.h"
 #include "SegnalazioneErrori.h"
@@ -194,24 +193,13 @@ public:
     void MigliorTrovato(std::size_t colonne, double secondi) override {
         if (vista_) vista_->MigliorTrovato(colonne, secondi);
     }
-    // The engine asks after every column, and a pump costs more than a step
-    // of the reduction (pumping every time made a run of 300000 columns
-    // three to four times slower), so events run at most every few
-    // milliseconds. The first request always pumps. A stop can only be asked
-    // during a pump, and the engine reads it right after one, so it is seen
-    // at the same point as with a pump at every step.
-    void ElaboraMessaggi() override {
-        if (ultimaPompa_.isValid() && ultimaPompa_.elapsed() < kMillisecondiTraPompe) return;
-        QCoreApplication::processEvents();
-        ultimaPompa_.start();
-    }
+    void ElaboraMessaggi() override { pompa_.Pompa(); }
     bool RichiestaStop() override { return stop_; }
 
 private:
-    static constexpr qint64 kMillisecondiTraPompe = 15;
     std::unique_ptr<combi::OsservatoreOttimizzazione> vista_;
     const bool& stop_;
-    QElapsedTimer ultimaPompa_;
+    PompaEventi pompa_;
 };
 
 }  // namespace

@@ -8,7 +8,6 @@
 #include "ChiaviComandi.h"
 #include "Messaggi.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -20,6 +19,7 @@
 #include "GrigliaCondizioni.h"
 #include "GrigliaNumeri.h"
 #include "LetturaNumero.h"
+#include "PompaEventi.h"
 #include "SegnalazioneErrori.h"
 #include "ServizioDialoghi.h"
 #include "Sviluppo.h"
@@ -44,11 +44,7 @@ public:
         Mostra(testate, tenute);
     }
     bool RichiestaStop() override { return stop_; }
-    void ElaboraMessaggi() override {
-        if (pompa_.isValid() && pompa_.elapsed() < kMillisecondiTraPompe) return;
-        pompa_.start();
-        QApplication::processEvents();
-    }
+    void ElaboraMessaggi() override { pompa_.Pompa(); }
     void Mostra(uint64_t testate, uint64_t tenute) {
         sviluppate_.setText(TestoContatore(static_cast<double>(testate)));
         condizionate_.setText(TestoContatore(static_cast<double>(tenute)));
@@ -56,11 +52,11 @@ public:
 
 private:
     static constexpr qint64 kMillisecondiTraDisegni = 50;
-    static constexpr qint64 kMillisecondiTraPompe = 15;
     QLineEdit& sviluppate_;
     QLineEdit& condizionate_;
     const bool& stop_;
-    QElapsedTimer disegno_, pompa_;
+    QElapsedTimer disegno_;
+    PompaEventi pompa_;
 };
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include "F_VerificaGaranzia.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -24,6 +22,7 @@
 #include "Errore.h"
 #include "F_VisualizzaColonne.h"
 #include "Garanzia.h"
+#include "PompaEventi.h"
 #include "Riduzione.h"
 #include "SegnalazioneErrori.h"
 #include "ServizioDialoghi.h"
@@ -53,19 +52,14 @@ public:
     void Percentuale(int percento) override {
         if (barra_) barra_->setValue(percento);
     }
-    void ElaboraMessaggi() override {
-        if (ultimaPompa_.isValid() && ultimaPompa_.elapsed() < kMillisecondiTraPompe) return;
-        QCoreApplication::processEvents();
-        ultimaPompa_.start();
-    }
+    void ElaboraMessaggi() override { pompa_.Pompa(); }
     bool RichiestaStop() override { return stop_; }
 
 private:
-    static constexpr qint64 kMillisecondiTraPompe = 15;
     QPointer<QLabel> info_;
     QPointer<QProgressBar> barra_;
     const bool& stop_;
-    QElapsedTimer ultimaPompa_;
+    PompaEventi pompa_;
 };
 
 QTableWidgetItem* Cella(const QString& testo) {
