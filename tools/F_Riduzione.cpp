@@ -4,7 +4,6 @@
 #include <QChart>
 #include <QChartView>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -90,7 +89,7 @@ void ImpostaAsse(QCategoryAxis* asse, double minimo, double massimo) {
 }  // namespace
 
 F_Riduzione::F_Riduzione(CombiFiltroA& controllo, ServizioDialoghi& dialoghi, QWidget* genitore)
-    : QDialog(genitore), controllo_(controllo), dialoghi_(dialoghi) {
+    : DialogoConLavoro(genitore), controllo_(controllo), dialoghi_(dialoghi) {
     setObjectName("F_Riduzione");
     setWindowTitle("Riduzione colonne");
     CostruisciFinestra();
@@ -213,11 +212,11 @@ QPushButton* F_Riduzione::XPButton1(int indice) const {
 
 void F_Riduzione::GaranziaCambiata() {
     labColonneRid_->clear();
-    xpButton1_[0]->setEnabled(!occupato_);
+    xpButton1_[0]->setEnabled(!Occupato());
 }
 
 void F_Riduzione::OttimizzaCambiato() {
-    txtSecondi_->setEnabled(chkOttimizza_->isChecked() && !occupato_);
+    txtSecondi_->setEnabled(chkOttimizza_->isChecked() && !Occupato());
     grafico_->setVisible(chkOttimizza_->isChecked());
     GaranziaCambiata();
 }
@@ -285,7 +284,7 @@ void F_Riduzione::AbilitaScelte(bool abilita) {
 void F_Riduzione::Avvia() {
     // While the control develops it refuses the reduction: the window stays
     // as it was, old count included.
-    if (occupato_ || controllo_.InSviluppo()) return;
+    if (Occupato() || controllo_.InSviluppo()) return;
     const int classe = classe_ > 0 ? classe_ : combi::kNumeriRiduzione;
     const int puntiRichiesti = classe - cmbRiduzione_->currentData().toInt();
     if (puntiRichiesti < 1) return;  // an entry the class does not offer
@@ -293,7 +292,7 @@ void F_Riduzione::Avvia() {
     AbilitaScelte(false);
     QCoreApplication::processEvents();
     chiusuraRichiesta_ = false;
-    occupato_ = true;
+    ImpostaOccupato(true);
     labColonneRid_->clear();
     labInfo_->clear();
     panPerc_->setValue(0);
@@ -320,7 +319,7 @@ void F_Riduzione::Avvia() {
     }
     labColonneRid_->setText(TestoContatore(controllo_.QuantitaColonne()));
     MostraEsito(ottimizza);
-    occupato_ = false;
+    ImpostaOccupato(false);
     // The start button stays off until the guarantee changes, so that a
     // second click does not run the finished reduction again.
     AbilitaScelte(true);
@@ -365,7 +364,7 @@ void F_Riduzione::AzzeraGrafico() {
 }
 
 void F_Riduzione::ChiudiOFerma() {
-    if (!occupato_) {
+    if (!Occupato()) {
         reject();
         return;
     }
@@ -376,14 +375,3 @@ void F_Riduzione::ChiudiOFerma() {
     }
 }
 
-void F_Riduzione::reject() {
-    if (!occupato_) QDialog::reject();
-}
-
-void F_Riduzione::closeEvent(QCloseEvent* evento) {
-    if (occupato_) {
-        evento->ignore();
-        return;
-    }
-    QDialog::closeEvent(evento);
-}

@@ -15,7 +15,7 @@
 // run has produced its columns. While a reduction runs the window cannot be
 // closed: the second button asks to stop it.
 
-#include <QDialog>
+#include "DialogoConLavoro.h"
 
 #include <cstddef>
 #include <memory>
@@ -35,7 +35,7 @@ namespace combi {
 class OsservatoreOttimizzazione;
 }
 
-class F_Riduzione : public QDialog {
+class F_Riduzione : public DialogoConLavoro {
     Q_OBJECT
 public:
     // The window registers itself with `controllo` as the view of every
@@ -56,7 +56,6 @@ public:
     void MostraPercentuale(int percento);
     void MostraMigliore(std::size_t colonne, double secondi);
 
-    bool Occupato() const { return occupato_; }
     // The class of the chosen file's columns; 0 before a file is chosen or
     // for a file with no column.
     int Classe() const { return classe_; }
@@ -74,13 +73,6 @@ public:
     QChartView* GraficoMigliori() const { return grafico_; }
     QLineSeries* SerieMigliori() const { return serie_; }
     QPushButton* XPButton1(int indice) const;  // 0 start, 1 close or stop
-
-public slots:
-    // Refused while a reduction runs.
-    void reject() override;
-
-protected:
-    void closeEvent(QCloseEvent* evento) override;
 
 private:
     void CostruisciFinestra();
@@ -110,7 +102,6 @@ private:
     QLineSeries* serie_ = nullptr;
     QPushButton* xpButton1_[2] = {};
     int classe_ = 0;
-    bool occupato_ = false;
     bool chiusuraRichiesta_ = false;  // a stop was confirmed: close when the run ends
     double secondiMassimi_ = 0;  // of the running search, the chart's time axis
 };

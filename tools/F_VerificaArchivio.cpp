@@ -1,7 +1,6 @@
 #include "F_VerificaArchivio.h"
 
 #include <QChartView>
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDateEdit>
@@ -84,7 +83,7 @@ private:
 
 F_VerificaArchivio::F_VerificaArchivio(CombiFiltroA& controllo, ServizioDialoghi& dialoghi, QSettings& impostazioni,
                                        QWidget* genitore)
-    : QDialog(genitore), controllo_(controllo), dialoghi_(dialoghi), impostazioni_(impostazioni) {
+    : DialogoConLavoro(genitore), controllo_(controllo), dialoghi_(dialoghi), impostazioni_(impostazioni) {
     setObjectName("F_VerificaArchivio");
     setWindowTitle("Verifica su archivio");
     CostruisciFinestra();
@@ -233,7 +232,7 @@ bool F_VerificaArchivio::Controlla() {
 }
 
 void F_VerificaArchivio::Verifica() {
-    if (occupato_) return;
+    if (Occupato()) return;
     AggiornaArchivioSeCambiato();
     if (!Controlla()) return;
     impostazioni_.SetPosta(txtPosta_->value());
@@ -333,7 +332,7 @@ void F_VerificaArchivio::RiordinaEstrazioni() {
 
 // The winnings check on the draw of the row, as if the user had typed its numbers.
 void F_VerificaArchivio::ApriSpoglio(QTreeWidgetItem* riga) {
-    if (!riga || occupato_) return;
+    if (!riga || Occupato()) return;
     bool ok = false;
     const size_t i = riga->data(0, kRuoloChiave).toString().toULongLong(&ok);
     if (!ok || i >= esito_.estrazioni.size()) return;
@@ -346,7 +345,7 @@ void F_VerificaArchivio::ApriSpoglio(QTreeWidgetItem* riga) {
 }
 
 void F_VerificaArchivio::Occupa(bool occupato) {
-    occupato_ = occupato;
+    ImpostaOccupato(occupato);
     stopRichiesto_ = false;
     for (QWidget* w : std::initializer_list<QWidget*>{cmdArchivio_, cmbGioco_, txtDal_, txtAl_, cmbPuntiMin_,
                                                       txtPosta_, grdPremi_, pulsanti_[0]})
@@ -357,21 +356,10 @@ void F_VerificaArchivio::Occupa(bool occupato) {
 }
 
 void F_VerificaArchivio::ChiudiOFerma() {
-    if (!occupato_) {
+    if (!Occupato()) {
         reject();
         return;
     }
     if (dialoghi_.Domanda(QString(), "Interrompere ?")) stopRichiesto_ = true;
 }
 
-void F_VerificaArchivio::reject() {
-    if (!occupato_) QDialog::reject();
-}
-
-void F_VerificaArchivio::closeEvent(QCloseEvent* evento) {
-    if (occupato_) {
-        evento->ignore();
-        return;
-    }
-    QDialog::closeEvent(evento);
-}

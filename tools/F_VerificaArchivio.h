@@ -8,7 +8,7 @@
 // stake and the prize tables are kept in the host's settings.
 
 #include <QDateTime>
-#include <QDialog>
+#include "DialogoConLavoro.h"
 
 #include <cstdint>
 
@@ -32,7 +32,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 class ServizioDialoghi;
 
-class F_VerificaArchivio : public QDialog {
+class F_VerificaArchivio : public DialogoConLavoro {
     Q_OBJECT
 public:
     // The columns, the class and the game come from `controllo`; every box
@@ -52,7 +52,6 @@ public:
     // Stop falls between two groups.
     void ImpostaDivisione(int thread, size_t estrazioniPerGruppo);
 
-    bool Occupato() const { return occupato_; }
     const combi::EsitoStorico& Esito() const { return esito_; }
 
     QLabel* LabArchivio() const { return labArchivio_; }
@@ -71,12 +70,6 @@ public:
     QChartView* Grafico() const { return grafico_; }
     QProgressBar* PanPerc() const { return panPerc_; }
     QPushButton* XPButton1(int indice) const { return pulsanti_[indice]; }
-
-public slots:
-    void reject() override;  // refused while a check runs
-
-protected:
-    void closeEvent(class QCloseEvent* evento) override;
 
 private:
     void CostruisciFinestra();
@@ -111,7 +104,6 @@ private:
     combi::TabellaPremi premi_{};    // the table on screen, for giocoPremi_ and the control's class
     combi::GiocoArchivio giocoPremi_ = combi::GiocoArchivio::kLotto;
     bool riempiendoPremi_ = false;
-    bool occupato_ = false;
     bool stopRichiesto_ = false;
     int thread_ = 0;
     size_t estrazioniPerGruppo_ = 0;

@@ -1,6 +1,5 @@
 #include "F_VerificaGaranzia.h"
 
-#include <QCloseEvent>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -72,7 +71,7 @@ QTableWidgetItem* Cella(const QString& testo) {
 }  // namespace
 
 F_VerificaGaranzia::F_VerificaGaranzia(CombiFiltroA& controllo, ServizioDialoghi& dialoghi, QWidget* genitore)
-    : QDialog(genitore), controllo_(controllo), dialoghi_(dialoghi) {
+    : DialogoConLavoro(genitore), controllo_(controllo), dialoghi_(dialoghi) {
     setObjectName("F_VerificaGaranzia");
     setWindowTitle(kTitolo);
     CostruisciFinestra();
@@ -248,15 +247,15 @@ void F_VerificaGaranzia::LeggiControllo() {
 void F_VerificaGaranzia::AggiornaAbilitazioni() {
     for (QWidget* w : std::initializer_list<QWidget*>{txtEstratti_, cmdTabella_, txtPunti_, optIntegrale_, optFile_,
                                                       cmdBuchi_, cmdChiudi_})
-        w->setEnabled(!occupato_);
-    txtClasse_->setEnabled(!occupato_ && optIntegrale_->isChecked());
-    cmdFile_->setEnabled(!occupato_ && optFile_->isChecked());
-    cmdVisualizza_->setEnabled(!occupato_ && !buchi_.empty());
-    cmdAnnulla_->setEnabled(occupato_);
+        w->setEnabled(!Occupato());
+    txtClasse_->setEnabled(!Occupato() && optIntegrale_->isChecked());
+    cmdFile_->setEnabled(!Occupato() && optFile_->isChecked());
+    cmdVisualizza_->setEnabled(!Occupato() && !buchi_.empty());
+    cmdAnnulla_->setEnabled(Occupato());
 }
 
 void F_VerificaGaranzia::Occupa(bool occupato) {
-    occupato_ = occupato;
+    ImpostaOccupato(occupato);
     if (occupato) {
         stop_ = false;
         panPerc_->setValue(0);
@@ -278,7 +277,7 @@ bool F_VerificaGaranzia::ControllaNumeri() {
 }
 
 void F_VerificaGaranzia::CalcolaTabella() {
-    if (occupato_ || !ControllaColonne() || !ControllaNumeri()) return;
+    if (Occupato() || !ControllaColonne() || !ControllaNumeri()) return;
     const QPointer<F_VerificaGaranzia> finestra(this);
     Occupa(true);
     grdGaranzia_->setRowCount(0);
@@ -309,7 +308,7 @@ std::vector<Colonna> F_VerificaGaranzia::ColonneDaCoprire() {
 }
 
 void F_VerificaGaranzia::CercaBuchi() {
-    if (occupato_ || !ControllaColonne()) return;
+    if (Occupato() || !ControllaColonne()) return;
     if (optIntegrale_->isChecked() && !ControllaNumeri()) return;
     if (optFile_->isChecked() && !QFileInfo::exists(labFile_->text())) {
         dialoghi_.Esclamazione(kTitolo, "Scegliere il file delle colonne da coprire");
@@ -343,7 +342,7 @@ void F_VerificaGaranzia::CercaBuchi() {
 }
 
 void F_VerificaGaranzia::ScegliFile() {
-    if (occupato_) return;
+    if (Occupato()) return;
     QString cartella = labFile_->text().isEmpty() ? controllo_.dirSistemi() : QFileInfo(labFile_->text()).absolutePath();
     const QString file = DialogoApri(dialoghi_, cartella, "Colonne da coprire", "File colonne (*.col)|*.col", "*.col",
                                      ".col");
@@ -352,23 +351,12 @@ void F_VerificaGaranzia::ScegliFile() {
 }
 
 void F_VerificaGaranzia::VisualizzaBuchi() {
-    if (occupato_ || buchi_.empty()) return;
+    if (Occupato() || buchi_.empty()) return;
     F_VisualizzaColonne vista(buchi_, "Buchi", this);
     vista.exec();
 }
 
 void F_VerificaGaranzia::Annulla() {
-    if (occupato_) stop_ = true;
+    if (Occupato()) stop_ = true;
 }
 
-void F_VerificaGaranzia::reject() {
-    if (!occupato_) QDialog::reject();
-}
-
-void F_VerificaGaranzia::closeEvent(QCloseEvent* evento) {
-    if (occupato_) {
-        evento->ignore();
-        return;
-    }
-    QDialog::closeEvent(evento);
-}

@@ -12,7 +12,7 @@
 // progress, "Annulla" stops the run (what was found so far is shown), and the
 // window cannot be closed meanwhile.
 
-#include <QDialog>
+#include "DialogoConLavoro.h"
 
 #include <vector>
 
@@ -27,7 +27,7 @@ class QSpinBox;
 class QTableWidget;
 class ServizioDialoghi;
 
-class F_VerificaGaranzia : public QDialog {
+class F_VerificaGaranzia : public DialogoConLavoro {
     Q_OBJECT
 public:
     // The kept columns, the picked numbers, the class and the game are read
@@ -41,7 +41,6 @@ public:
     void VisualizzaBuchi();    // CmdVisualizza
     void Annulla();            // CmdAnnulla
 
-    bool Occupato() const { return occupato_; }
     const std::vector<combi::Colonna>& Buchi() const { return buchi_; }
 
     QLabel* LabColonne() const { return labColonne_; }
@@ -63,12 +62,6 @@ public:
     QPushButton* CmdAnnulla() const { return cmdAnnulla_; }
     QPushButton* CmdChiudi() const { return cmdChiudi_; }
 
-public slots:
-    void reject() override;  // refused while a run goes on
-
-protected:
-    void closeEvent(class QCloseEvent* evento) override;
-
 private:
     void CostruisciFinestra();
     void CreaTabella(class QVBoxLayout* colonna);
@@ -87,7 +80,6 @@ private:
     std::vector<combi::Colonna> tenute_;
     std::vector<int> numeri_;
     std::vector<combi::Colonna> buchi_;
-    bool occupato_ = false;
     bool stop_ = false;
 
     QLabel* labColonne_ = nullptr;
