@@ -18,6 +18,7 @@
 #include "Errore.h"
 #include "F_QuadroRecuperi.h"
 #include "F_Statistica.h"
+#include "Screenshot.h"
 
 namespace {
 
@@ -207,13 +208,10 @@ TEST(Statistica, IlGraficoHaTaccheLeggibiliEDiceIlValoreIndicato) {
     EXPECT_TRUE(grafico.AsseX()->categoriesLabels().contains("1050"));
 }
 
-// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-editori.sh)
+// Not a check: with --screenshot (scripts/screenshot-editori.sh)
 // it saves pictures of a few editors, of the preview, and of an editor beside
 // its chart ("editore-grafico.png", the README's picture).
-TEST(Screenshot, SalvaImmaginiDegliEditori) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(SalvaImmaginiDegliEditori) {
     FakeDialoghi dialoghi;
     ContestoEditore contesto{6, {3, 8, 15, 21, 40, 77, 81, 88}, 0, &dialoghi};
     auto salva = [&](QWidget& w, const QString& nome) {

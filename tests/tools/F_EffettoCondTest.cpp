@@ -11,6 +11,7 @@
 #include "CollegaStrumenti.h"
 #include "F_EffettoCond.h"
 #include "GrigliaCondizioni.h"
+#include "Screenshot.h"
 
 namespace {
 
@@ -115,10 +116,7 @@ TEST(F_EffettoCond, ToolbarOpensItModally) {
     EXPECT_EQ(b.dialoghi.boxes.size(), boxPrima) << "no message along the way";
 }
 
-TEST(Screenshot, EffettoCondizioni) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(EffettoCondizioni) {
     Banco b;
     SviluppaSistemaDiProva(b);
     F_EffettoCond effetto(b.c);

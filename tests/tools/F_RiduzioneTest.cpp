@@ -24,6 +24,7 @@
 #include "FileColonne.h"
 #include "Riduzione.h"
 #include "UtilitaSchermo.h"
+#include "Screenshot.h"
 
 namespace {
 
@@ -384,12 +385,9 @@ TEST(CollegaStrumenti, RiduzioneOpensTheWindowAndRefreshesTheColumnCommands) {
     EXPECT_TRUE(b.c.Pulsante("VisualizzaColonne")->isEnabled());
 }
 
-// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// Not a check: with --screenshot (scripts/screenshot-strumenti.sh)
 // it saves a picture of the window after a reduction.
-TEST(Screenshot, Riduzione) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(Riduzione) {
     BancoRiduzione r;
     r.Scegli(r.Scrivi("Esempio.col", ColonneCasuali(2026, 5000, 24)));
     r.Garanzia(1);

@@ -21,6 +21,7 @@
 #include "F_Spoglio.h"
 #include "Spoglio.h"
 #include "TestiGrigliaQt.h"
+#include "Screenshot.h"
 
 namespace {
 
@@ -400,10 +401,7 @@ TEST(F_Spoglio, TheToolbarCommandOpensTheDialog) {
     EXPECT_TRUE(b.dialoghi.boxes.empty());
 }
 
-TEST(Screenshot, Spoglio) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(Spoglio) {
     Banco b;
     b.NumeriDa1A(14);
     b.c.setClasse(5);

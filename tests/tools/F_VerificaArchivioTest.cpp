@@ -25,6 +25,7 @@
 #include "../control/Banco.h"
 #include "F_Spoglio.h"
 #include "F_VerificaArchivio.h"
+#include "Screenshot.h"
 
 namespace {
 
@@ -224,12 +225,9 @@ TEST(F_VerificaArchivio, StopAskedDuringTheCheckKeepsTheDrawsAlreadyChecked) {
 
 }  // namespace
 
-// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// Not a check: with --screenshot (scripts/screenshot-strumenti.sh)
 // the pages over the synthetic archive are saved as pictures.
-TEST(Screenshot, VerificaArchivio) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(VerificaArchivio) {
     Prova p;
     p.impostazioni.setValue("VerificaArchivio/Archivio",
                             QFileInfo(__FILE__).dir().filePath("../../esempi/ArchivioSintetico.txt"));

@@ -21,6 +21,7 @@
 #include "AnteprimaSchedine.h"
 #include "GrigliaSchedina.h"
 #include "ImpaginaSchedine.h"
+#include "Screenshot.h"
 
 namespace {
 
@@ -191,12 +192,9 @@ QImage Foglio(const ImpaginaSchedine& stampa) {
     return foglio;
 }
 
-// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// Not a check: with --screenshot (scripts/screenshot-strumenti.sh)
 // it saves the first page of the slips of a Lotto and a SuperEnalotto system.
-TEST(Screenshot, Schedine) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(Schedine) {
     DatiSchedine lotto{"Esempio.sic", "Lotto", 5, QDate::currentDate(), {}};
     for (const auto& c : {Col({3, 17, 45, 62, 88}), Col({5, 12, 29, 51, 73}), Col({1, 22, 38, 64, 90}),
                           Col({8, 19, 33, 47, 56}), Col({11, 24, 40, 69, 81}), Col({6, 14, 52, 75, 87}),
