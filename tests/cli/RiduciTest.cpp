@@ -63,6 +63,12 @@ TEST_F(RiduciSpoglioTest, WrongInputGivesAMessageAndAnExitCode) {
     const Caso casi[] = {
         {{"riduci", P("buono.col"), "--colonne", P("o.col")}, 2, "manca --punti"},
         {{"riduci", P("buono.col"), "--punti", "7", "--colonne", P("o.col")}, 2, "--punti deve"},
+        {{"riduci", P("buono.col"), "--punti", "0", "--colonne", P("o.col")}, 2,
+         "--punti deve essere un numero intero tra 1 e 6: \"0\""},
+        {{"riduci", P("buono.col"), "--punti", "3", "--punti", "4", "--colonne", P("o.col")}, 2,
+         "opzione --punti ripetuta"},
+        {{"riduci", P("buono.col"), "--punti", "3", "--colonne", P("o.col"), "--riferimento", "--riferimento"}, 2,
+         "opzione --riferimento ripetuta"},
         {{"riduci", P("manca.col"), "--punti", "3", "--colonne", P("o.col")}, 1,
          "Errore 53- Il file delle colonne non esiste"},
         {{"riduci", P("corto.col"), "--punti", "3", "--colonne", P("o.col")}, 1, "La colonna 2 "},
