@@ -1,3 +1,4 @@
+#include "../engine/ColonnaDiProva.h"
 #include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
@@ -29,12 +30,7 @@ protected:
     std::ostringstream out_, err_;
 };
 
-Colonna Col(std::initializer_list<int> numeri) {
-    Colonna c;
-    int pos = 1;
-    for (int n : numeri) c[pos++] = uint8_t(n);
-    return c;
-}
+using test::Col;
 
 TEST_F(RiduciSpoglioTest, BothReductionPathsWriteTheSameFileFromWholeRecords) {
     std::vector<Colonna> colonne;

@@ -4,6 +4,7 @@
 
 #include "ColonnaDiProva.h"
 #include "ColonneInMemoria.h"
+#include "OsservatoriDiProva.h"
 #include "Conteggi.h"
 #include "Errore.h"
 #include "VerificaColonna.h"
@@ -16,30 +17,8 @@ namespace {
 
 using test::Col;
 
-// Stops once the reported count of tested columns reaches a threshold, and
-// records every progress report.
-class Osservatore : public OsservatoreSviluppo {
-public:
-    explicit Osservatore(uint64_t fermaA = UINT64_MAX) : fermaA_(fermaA) {}
-    void Progresso(uint64_t testate, uint64_t tenute) override { rapporti.push_back({testate, tenute}); }
-    bool RichiestaStop() override { return !rapporti.empty() && rapporti.back().first >= fermaA_; }
-    void ElaboraMessaggi() override { ++pompe; }
-    std::vector<std::pair<uint64_t, uint64_t>> rapporti;
-    int pompe = 0;
-
-private:
-    uint64_t fermaA_;
-};
-
-void ExpectStessoRisultato(const RisultatoSviluppo& a, const RisultatoSviluppo& b, const std::string& caso) {
-    EXPECT_EQ(a.testate, b.testate) << caso;
-    EXPECT_EQ(a.interrotto, b.interrotto) << caso;
-    ASSERT_EQ(a.colonne.size(), b.colonne.size()) << caso;
-    EXPECT_TRUE(a.colonne == b.colonne) << caso;
-    ASSERT_EQ(a.condizioni.size(), b.condizioni.size()) << caso;
-    for (size_t i = 0; i < a.condizioni.size(); ++i)
-        EXPECT_EQ(a.condizioni[i], b.condizioni[i]) << caso << " condition " << i;
-}
+using test::ExpectStessoRisultato;
+using test::Osservatore;
 
 ParametriSviluppo Sistema(int n, int k, std::vector<TestiCondizione> colonne = {}, int riduzione = 0) {
     ParametriSviluppo p;

@@ -19,6 +19,8 @@
 #include <random>
 
 #include "../control/Banco.h"
+#include "../engine/ColonnaDiProva.h"
+#include "../engine/OsservatoriDiProva.h"
 #include "CollegaStrumenti.h"
 #include "F_Riduzione.h"
 #include "FileColonne.h"
@@ -30,43 +32,13 @@ namespace {
 
 using combi::Colonna;
 
-// Six different numbers out of 1..`numeri`, ascending, with a few exact
-// copies so that every guarantee drops something.
-std::vector<Colonna> ColonneCasuali(uint32_t seme, size_t quante, int numeri, int classe = 6) {
-    std::mt19937 rng(seme);
-    std::vector<int> urna(static_cast<size_t>(numeri));
-    std::iota(urna.begin(), urna.end(), 1);
-    std::vector<Colonna> v;
-    while (v.size() < quante) {
-        if (!v.empty() && rng() % 8 == 0) {
-            v.push_back(v[rng() % v.size()]);
-            continue;
-        }
-        std::shuffle(urna.begin(), urna.end(), rng);
-        std::sort(urna.begin(), urna.begin() + classe);
-        Colonna c;
-        for (int p = 1; p <= classe; ++p) c[p] = static_cast<uint8_t>(urna[static_cast<size_t>(p) - 1]);
-        v.push_back(c);
-    }
-    return v;
-}
+using combi::test::ColonneCasuali;
 
-// The engine on its own, with a stop seen from the k-th message pump on
-// (0: never). Counts the pumps of the run.
-class Fermata : public combi::OsservatoreRiduzione {
-public:
-    explicit Fermata(int alPasso = 0) : alPasso_(alPasso) {}
-    void ElaboraMessaggi() override { ++pompe; }
-    bool RichiestaStop() override { return alPasso_ > 0 && pompe >= alPasso_; }
-    int pompe = 0;
-
-private:
-    int alPasso_;
-};
+using combi::test::Registro;
 
 // What the control must hold after the run: element 0 empty, then the columns left.
 std::vector<Colonna> Attese(const std::vector<Colonna>& colonne, int punti, int stopAlPasso = 0) {
-    Fermata fermata(stopAlPasso);
+    Registro fermata(stopAlPasso);
     std::vector<Colonna> v = combi::RiduciColonne(colonne, punti, fermata).colonne;
     v.insert(v.begin(), Colonna{});
     return v;

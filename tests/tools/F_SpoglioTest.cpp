@@ -14,6 +14,7 @@
 
 #include <vector>
 
+#include "../engine/ColonnaDiProva.h"
 #include "../control/Banco.h"
 #include "ClsOrdinaLv.h"
 #include "CollegaStrumenti.h"
@@ -63,12 +64,7 @@ std::vector<combi::Colonna> Colonne(const Banco& b) {
     return c;
 }
 
-combi::Colonna Col(std::initializer_list<int> numeri) {
-    combi::Colonna c;
-    int pos = 1;
-    for (int n : numeri) c[pos++] = uint8_t(n);
-    return c;
-}
+using combi::test::Col;
 
 QStringList Punti(const QTreeWidget* lista, int colonna) {
     QStringList t;

@@ -17,6 +17,7 @@
 
 #include <set>
 
+#include "../engine/ColonnaDiProva.h"
 #include "../control/Banco.h"
 #include "AnteprimaSchedine.h"
 #include "GrigliaSchedina.h"
@@ -25,12 +26,7 @@
 
 namespace {
 
-combi::Colonna Col(std::initializer_list<int> numeri) {
-    combi::Colonna c;
-    int pos = 1;
-    for (int n : numeri) c[pos++] = uint8_t(n);
-    return c;
-}
+using combi::test::Col;
 
 // `quante` class-5 columns: column i holds i, i+10, i+20, i+30, i+40.
 DatiSchedine Dati(const QString& gioco, int quante) {
