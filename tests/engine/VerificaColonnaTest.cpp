@@ -22,22 +22,30 @@ SistemaDecodificato Leggi(std::vector<TestiCondizione> colonne, std::vector<std:
     return LeggiCondizioni(g);
 }
 
+// The same condition recovered by the first panel and by the last, the
+// others switched off; a panel number past 20 recovers nothing.
 TEST(VerificaColonna, PassAndRecoveryThroughAPanel) {
-    auto s = Leggi({{"", "Punti Col.", "01-02-03-04-\r\n05", "2-3", "1", "1"}}, {"1,1,-1"});
-    auto& cond = s.condizioni[0];
+    for (int quadro : {1, 20, 21}) {
+        SCOPED_TRACE("panel " + std::to_string(quadro));
+        std::vector<std::string> quadri(20, "-1,-1,-0");
+        if (quadro <= 20) quadri[size_t(quadro) - 1] = "1,1,-1";
+        auto s = Leggi({{"", "Punti Col.", "01-02-03-04-\r\n05", "2-3", "1", std::to_string(quadro)}}, quadri);
+        auto& cond = s.condizioni[0];
+        const int recuperata = quadro <= 20 ? kVero : kFalso;
 
-    EXPECT_EQ(VerificaColonna(5, Col({1, 7, 9, 11, 13}), s.condizioni, s.quadri), kVero);
-    EXPECT_EQ(cond.Valore, 1);
-    EXPECT_EQ(cond.ContaFallite, 1);
-    EXPECT_EQ(cond.ContaRecuperabili, 1);
-    EXPECT_EQ(cond.Superata, kVero);  // recovered by panel 1
+        EXPECT_EQ(VerificaColonna(5, Col({1, 7, 9, 11, 13}), s.condizioni, s.quadri), recuperata);
+        EXPECT_EQ(cond.Valore, 1);
+        EXPECT_EQ(cond.ContaFallite, 1);
+        EXPECT_EQ(cond.ContaRecuperabili, 1);
+        EXPECT_EQ(cond.Superata, recuperata);
 
-    EXPECT_EQ(VerificaColonna(5, Col({7, 9, 11, 13, 15}), s.condizioni, s.quadri), kFalso);
-    EXPECT_EQ(cond.ContaFallite, 2);
-    EXPECT_EQ(cond.ContaRecuperabili, 1);
+        EXPECT_EQ(VerificaColonna(5, Col({7, 9, 11, 13, 15}), s.condizioni, s.quadri), kFalso);
+        EXPECT_EQ(cond.ContaFallite, 2);
+        EXPECT_EQ(cond.ContaRecuperabili, 1);
 
-    EXPECT_EQ(VerificaColonna(5, Col({1, 2, 7, 9, 11}), s.condizioni, s.quadri), kVero);
-    EXPECT_EQ(cond.ContaSuperate, 1);
+        EXPECT_EQ(VerificaColonna(5, Col({1, 2, 7, 9, 11}), s.condizioni, s.quadri), kVero);
+        EXPECT_EQ(cond.ContaSuperate, 1);
+    }
 }
 
 TEST(VerificaColonna, PanelRecoversOnlyWithinItsBounds) {
