@@ -55,6 +55,7 @@ TEST_F(RiduciSpoglioTest, WrongInputGivesAMessageAndAnExitCode) {
     ScriviFileColonne(P("buono.col"), {Col({1, 2, 3, 4, 5, 6})});
     ScriviFileColonne(P("corto.col"), {Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 4, 5})});
     ScriviFileColonne(P("vuoto.col"), {});
+    ScriviFileColonne(P("doppio.col"), {Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 4, 5, 7}), Col({8, 9, 10, 11, 9, 12})});
     struct Caso { cli::Parole parole; int codice; std::string messaggio; };
     const Caso casi[] = {
         {{"riduci", P("buono.col"), "--colonne", P("o.col")}, 2, "manca --punti"},
@@ -68,6 +69,8 @@ TEST_F(RiduciSpoglioTest, WrongInputGivesAMessageAndAnExitCode) {
         {{"riduci", P("manca.col"), "--punti", "3", "--colonne", P("o.col")}, 1,
          "Errore 53- Il file delle colonne non esiste"},
         {{"riduci", P("corto.col"), "--punti", "3", "--colonne", P("o.col")}, 1, "La colonna 2 "},
+        {{"riduci", P("doppio.col"), "--punti", "3", "--colonne", P("o.col")}, 1,
+         "La colonna 3 non ha sei numeri diversi da 1 a 90 nelle prime sei posizioni"},
         {{"spoglio", P("buono.col"), "--estrazione", "0,5"}, 2, "Inserire numeri da 1 a 90"},
         {{"spoglio", P("buono.col"), "--estrazione", "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21"}, 2,
          "La colonna vincente deve contenere massimo 20 numeri"},

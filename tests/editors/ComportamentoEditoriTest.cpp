@@ -48,6 +48,10 @@ TEST(VerificaCoerenza, MostraIlMessaggioDellUltimoControlloFallito) {
         {"non numerici", combi::kDistanzaMinima, minmax("a", "b", " ", "", ""), "Impostare i punti da realizzare"},
         {"ultimo vince", combi::kBaricentro, minmax("5", "3", "2", "", ""), "Impostare i punti di recupero"},
         {"recupero rovesciato", combi::kAmpiezza, minmax("1", "3", "2", "9", "4"), "Range punti recupero non valido"},
+        {"minimo uguale al massimo", combi::kPeso, minmax("4", "4", " ", "", ""), nullptr},
+        {"recupero di un solo valore", combi::kAmpiezza, minmax("1", "3", "2", "5", "5"), nullptr},
+        {"un solo valore, zero", combi::kDistanzaMinima, minmax("0", "0", " ", "", ""),
+         "Impostare i punti da realizzare"},
         {"intervallo completo", combi::kAmpiezza, minmax("1", "3", "2", "4", "9"), nullptr},
         {"sequenza vuota", combi::kSequenze, [](F_PuntiSuBase& e) { Clic(e, "ChkPunti_0"); }, "Impostare la sequenza"},
     };

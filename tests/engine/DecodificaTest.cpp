@@ -51,7 +51,7 @@ TEST(Decodifica, ListsSetTheIndexedElements) {
 
 TEST(Decodifica, RangesNeedExactlyTwoPieces) {
     struct Caso { const char* testo; int32_t min, max; };
-    const Caso casi[] = {{"10-25", 10, 25}, {"10", 0, 0}, {"10-25-30", 0, 0}, {"-5", 0, 5},
+    const Caso casi[] = {{"10-25", 10, 25}, {"7-7", 7, 7}, {"10", 0, 0}, {"10-25-30", 0, 0}, {"-5", 0, 5},
                          {"3-", 3, 0},      {"-", 0, 0}};
     for (const Caso& c : casi) {
         int32_t min = 99, max = 99;
