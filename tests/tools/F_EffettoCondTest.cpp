@@ -60,16 +60,10 @@ TEST(F_EffettoCond, CountsAndSharesOfTheLastDevelopment) {
               QStringList({"3", "Punti Col.", "126", "50", "126", "50", "126", "50"}));
     EXPECT_EQ(Testi(lista->topLevelItem(4)), QStringList({"5", "LinkClose", "", "", "", "", "", ""}));
 
-    // Every condition is measured on every column: the row follows the table.
-    const combi::Condizione& ampiezza = b.c.CondizioniUltimoSviluppo().at(3);
-    EXPECT_EQ(ampiezza.ContaSuperate + ampiezza.ContaFallite, 252);
-    const QTreeWidgetItem* riga = lista->topLevelItem(3);
-    EXPECT_EQ(riga->text(1), "Ampiezza");
-    EXPECT_EQ(Cifre(riga->text(2)).toInt(), ampiezza.ContaSuperate);
-    EXPECT_EQ(riga->text(3).toInt(), ampiezza.ContaSuperate * 100 / 252);
-    EXPECT_EQ(Cifre(riga->text(4)).toInt(), ampiezza.ContaFallite);
-    EXPECT_EQ(riga->text(5).toInt(), ampiezza.ContaFallite * 100 / 252);
-    EXPECT_EQ(Cifre(riga->text(6)).toInt(), ampiezza.ContaRecuperabili);
+    // Every condition is measured on every column. Ampiezza a = largest -
+    // smallest: (10 - a) places for the pair, C(a - 1, 3) middles; 5..7 gives
+    // 5*4 + 4*10 + 3*20 = 120 of 252 (47 %, cut down), the other 132 (52 %).
+    EXPECT_EQ(Testi(lista->topLevelItem(3)), QStringList({"4", "Ampiezza", "120", "47", "132", "52", "0", "0"}));
 
     // Shares are of the integral system as it is now: with 7 numbers left
     // (21 columns) the counts of the 252 exceed it and stop at 100.
