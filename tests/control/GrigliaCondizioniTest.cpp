@@ -37,23 +37,28 @@ TEST(GrigliaCondizioni, LayoutShapesAnEmptyGrid) {
     EXPECT_FALSE(g.item(1, 3)->flags() & Qt::ItemIsSelectable) << "row 1 is fixed";
 }
 
-TEST(GrigliaCondizioni, PrimaColonnaLibera) {
+// Where a new condition goes, and the first empty column before the last
+// condition (0: none).
+TEST(GrigliaCondizioni, PrimaColonnaLiberaAndColonnaVuotaInterna) {
     struct Caso {
         const char* nome;
         std::vector<int> piene;
         int corrente;
         int attesa;
+        int vuota;
     } casi[] = {
-        {"empty grid", {}, 0, 1},
-        {"gap after the last condition", {1, 2, 3, 5}, 9, 6},
-        {"current empty column right of a filled one", {1, 2, 3, 5}, 4, 4},
-        {"current column filled", {1, 2, 3}, 2, 4},
+        {"empty grid", {}, 0, 1, 0},
+        {"gap after the last condition", {1, 2, 3, 5}, 9, 6, 4},
+        {"current empty column right of a filled one", {1, 2, 3, 5}, 4, 4, 4},
+        {"current column filled", {1, 2, 3}, 2, 4, 0},
+        {"the first column empty", {2, 3}, 0, 4, 1},
     };
     for (const Caso& caso : casi) {
         GrigliaCondizioni g;
         for (int c : caso.piene) g.ImpostaTesto(1, c, "Ponte");
         if (caso.corrente > 0) g.setCurrentCell(2, caso.corrente);
         EXPECT_EQ(g.PrimaColonnaLibera(), caso.attesa) << caso.nome;
+        EXPECT_EQ(g.ColonnaVuotaInterna(), caso.vuota) << caso.nome;
     }
     GrigliaCondizioni piena;
     for (int c = 1; c <= 200; ++c) piena.ImpostaTesto(1, c, "Ponte");
@@ -120,6 +125,12 @@ TEST(GrigliaCondizioni, WidthLimitsAndHighlight) {
     EXPECT_TRUE(g.ColonnaInteramenteVisibile(150));
     g.PortaInVista(2);
     EXPECT_EQ(g.ColonnaSinistra(), 2) << "a column left of the view becomes the leftmost";
+    g.ImpostaColonnaSinistra(40);
+    EXPECT_EQ(g.ColonnaSinistra(), 40);
+    for (int fuori : {0, -3, 201}) {
+        g.ImpostaColonnaSinistra(fuori);
+        EXPECT_EQ(g.ColonnaSinistra(), 40) << fuori << " is no column: the view stays";
+    }
 
     // The colour is the background of the panel's hidden label, read anew.
     QLabel fonte;
