@@ -173,6 +173,28 @@ TEST(Statistica, ScaleRotonde) {
     }
 }
 
+// The heading names the measure the way the editor's choice reads, direct or
+// inverse, and the game by its code (nothing outside 1..4).
+TEST(Statistica, NomiDelleMisureEDeiGiochi) {
+    struct Caso { int16_t tipo; int parametro; bool pari; const char* nome; };
+    const Caso casi[] = {
+        {combi::kVortice, 1, false, "Vortice diretto"},     {combi::kVortice, 2, false, "Vortice inverso"},
+        {combi::kSimmetrie, 1, false, "Simmetrie dirette"}, {combi::kSimmetrie, 2, false, "Simmetrie inverse"},
+        {combi::kParalleli, 1, false, "Paralleli diretti"}, {combi::kParalleli, 2, false, "Paralleli inversi"},
+        {combi::kResto, 7, false, "Resto a 7"},             {combi::kPosizioni, 3, false, "Numero in posizione 3"},
+        {combi::kPariDispari, 0, true, "Numeri pari"},      {combi::kPariDispari, 0, false, "Numeri dispari"},
+    };
+    for (const Caso& c : casi) {
+        combi::Condizione condizione;
+        condizione.Tipo = c.tipo;
+        condizione.Parametro = c.parametro;
+        if (c.pari) condizione.Numeri[2] = -1;
+        EXPECT_EQ(NomeMisura(condizione), c.nome);
+    }
+    const QStringList giochi = {"", "Lotto", "10ELotto", "10ELotto5M", "SuperEnalotto", ""};
+    for (int codice = 0; codice <= 5; ++codice) EXPECT_EQ(NomeGioco(codice), giochi[codice]) << codice;
+}
+
 // The chart's axes carry grouped round labels; pointing at a bar tells it.
 TEST(Statistica, IlGraficoHaTaccheLeggibiliEDiceIlValoreIndicato) {
     GraficoBarre grafico;
