@@ -1,3 +1,6 @@
+// The conditions grid. Scanning for the first free column down to column 0
+// instead of 1 changes nothing: column 0 holds the heading "Condizione" and
+// is never free.
 #include <gtest/gtest.h>
 
 #include <QLabel>

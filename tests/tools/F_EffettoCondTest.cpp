@@ -64,6 +64,9 @@ TEST(F_EffettoCond, CountsAndSharesOfTheLastDevelopment) {
     // smallest: (10 - a) places for the pair, C(a - 1, 3) middles; 5..7 gives
     // 5*4 + 4*10 + 3*20 = 120 of 252 (47 %, cut down), the other 132 (52 %).
     EXPECT_EQ(Testi(lista->topLevelItem(3)), QStringList({"4", "Ampiezza", "120", "47", "132", "52", "0", "0"}));
+    // Figures to the right, the condition's name to the left.
+    for (int c = 0; c < lista->columnCount(); ++c)
+        EXPECT_EQ(lista->topLevelItem(3)->textAlignment(c) & Qt::AlignRight ? 1 : 0, c == 1 ? 0 : 1) << c;
 
     // Shares are of the integral system as it is now: with 7 numbers left
     // (21 columns) the counts of the 252 exceed it and stop at 100.

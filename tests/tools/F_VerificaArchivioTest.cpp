@@ -1,3 +1,5 @@
+// "Verifica su archivio" and the settings it keeps. Writing a prize with a
+// field width of 1 instead of 0 changes nothing (a number is never shorter).
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -25,6 +27,7 @@
 #include "../control/Banco.h"
 #include "F_Spoglio.h"
 #include "F_VerificaArchivio.h"
+#include "ImpostazioniStorico.h"
 #include "Screenshot.h"
 
 namespace {
@@ -168,6 +171,25 @@ TEST(F_VerificaArchivio, ShowsTheDrawsWithHitsTheChartAndTheMoneyOfThePrizesType
     EXPECT_EQ(premi, (QStringList{"", "", "100,00", "10,00", "", ""}));
     riaperto.CmbGioco()->setCurrentText("10ELotto");
     for (int r = 0; r < riaperto.GrdPremi()->rowCount(); ++r) EXPECT_EQ(riaperto.GrdPremi()->item(r, 1)->text(), "");
+}
+
+// The prize table kept in the settings, points 0..20: a hand-edited item out
+// of range, not a number or negative is dropped alone.
+TEST(ImpostazioniStorico, PrizeTableRoundTripsAndBadItemsDropAlone) {
+    QTemporaryDir cartella;
+    QSettings settings(cartella.filePath("premi.ini"), QSettings::IniFormat);
+    ImpostazioniStorico impostazioni(settings);
+    combi::TabellaPremi premi{};
+    premi[0] = 5, premi[3] = 0.1 + 0.2, premi[20] = 1e6;
+    impostazioni.SetPremi(combi::GiocoArchivio::kDieciELotto, 20, premi);
+    EXPECT_EQ(impostazioni.Premi(combi::GiocoArchivio::kDieciELotto, 20), premi);
+    EXPECT_EQ(impostazioni.Premi(combi::GiocoArchivio::kDieciELotto, 19), combi::TabellaPremi{});
+    const QStringList chiavi = settings.allKeys();
+    ASSERT_EQ(chiavi.size(), 1);
+    settings.setValue(chiavi[0], QStringList{"0=5", "21=3", "-1=2", "x=1", "4=abc", "2=7", "5=-1", "6=inf", "7"});
+    combi::TabellaPremi attesi{};
+    attesi[0] = 5, attesi[2] = 7;
+    EXPECT_EQ(impostazioni.Premi(combi::GiocoArchivio::kDieciELotto, 20), attesi);
 }
 
 TEST(F_VerificaArchivio, DoubleClickOpensTheWinningsCheckOnThatDraw) {
