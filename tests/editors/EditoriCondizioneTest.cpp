@@ -1,5 +1,8 @@
 // Entering, editing and cancelling a condition of every type, and the texts
 // it leaves in the grid.
+// The editors' Pulsante(i) handle is reached by the product for button 0
+// only; the other buttons are pressed by name, so a change in its upper bound
+// is nothing a user can meet.
 #include <QCheckBox>
 #include <QTest>
 #include <QLabel>
