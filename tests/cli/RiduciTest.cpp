@@ -75,6 +75,10 @@ TEST_F(RiduciSpoglioTest, WrongInputGivesAMessageAndAnExitCode) {
         {{"spoglio", P("buono.col"), "--estrazione", "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21"}, 2,
          "La colonna vincente deve contenere massimo 20 numeri"},
         {{"spoglio", P("vuoto.col"), "--estrazione", "5"}, 2, "--classe"},
+        {{"spoglio", P("buono.col"), "--estrazione", "5", "--minimo", "0"}, 2,
+         "--minimo deve essere un numero intero tra 1 e 10: \"0\""},
+        {{"spoglio", P("buono.col"), "--estrazione", "5", "--minimo", "11"}, 2, "tra 1 e 10"},
+        {{"spoglio", P("buono.col"), "--estrazione", "5", "--classe", "21"}, 2, "--classe deve essere"},
     };
     for (const Caso& c : casi) {
         EXPECT_EQ(Esegui(c.parole), c.codice) << c.messaggio;

@@ -91,6 +91,12 @@ TEST(Misure, ClassOneHasNoPairs) {
     EXPECT_EQ(MisuraVortice(pc, 2), 0);
     EXPECT_EQ(MisuraBaricentro(pc), 37);
     EXPECT_EQ(CalcolaBaricentro(1, Col({37})), 37);
+    // The class of a column is its last position holding a number.
+    EXPECT_EQ(ClasseDellaColonna(Col({37})), 1);
+    EXPECT_EQ(ClasseDellaColonna(Colonna{}), 0);
+    Colonna ultima;
+    ultima[20] = 1;
+    EXPECT_EQ(ClasseDellaColonna(ultima), 20);
 }
 
 TEST(Misure, BaricentroTruncatesInTheDevelopmentAndRoundsHalfEvenInPublic) {
