@@ -17,6 +17,11 @@ TEST(Conteggi, FactorialsAndIntegralCounts) {
     EXPECT_EQ(Combinazioni(90, 6), 622614630u);
     EXPECT_EQ(Combinazioni(90, 20), UINT64_MAX);  // beyond 64 bits: saturates
     EXPECT_EQ(Combinazioni(90, 10), 5720645481903ull);
+    // No way to choose a negative count, or more than there are.
+    struct Caso { int n, k; uint64_t attese; };
+    for (const Caso& c : {Caso{5, -1, 0}, Caso{-1, -2, 0}, Caso{-1, 0, 0}, Caso{4, 5, 0}, Caso{5, 0, 1}, Caso{0, 0, 1},
+                          Caso{7, 7, 1}, Caso{7, 6, 7}, Caso{20, 10, 184756}})
+        EXPECT_EQ(Combinazioni(c.n, c.k), c.attese) << c.n << "," << c.k;
 }
 
 TEST(Conteggi, EnumerationIsLexicographicAndUnrankingAgrees) {
