@@ -117,6 +117,8 @@ TEST(SviluppoPannello, StopAskedDuringTheDevelopment) {
         b.Condizione(1, "Ponte", "P", "0-1-2-3-4");  // every column passes
         b.c.SetColonnaGrid(1);
         b.dialoghi.risposte = {interrompi};
+        int stopLavoratori = 0;  // the workers' stop is not this development's
+        b.c.RegistraComando("StopLavoratori", [&] { ++stopLavoratori; });
         bool statoVerificato = false;
         QTimer::singleShot(0, &b.c, [&] {
             // The first event pump of the running development.
@@ -138,6 +140,7 @@ TEST(SviluppoPannello, StopAskedDuringTheDevelopment) {
         });
         b.c.GestSviluppo();
         EXPECT_TRUE(statoVerificato);
+        EXPECT_EQ(stopLavoratori, 0);
         const QStringList testi = b.dialoghi.Testi();
         ASSERT_EQ(testi.size(), 2) << "only Stop reacted while developing: " << testi.join(" | ").toStdString();
         EXPECT_TRUE(b.dialoghi.dialoghiFile.empty());
