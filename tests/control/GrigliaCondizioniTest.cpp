@@ -1,6 +1,7 @@
 // The conditions grid. Scanning for the first free column down to column 0
 // instead of 1 changes nothing: column 0 holds the heading "Condizione" and
-// is never free.
+// is never free. Likewise a combo's exact-text search running one index past
+// its items (UtilitaSchermo) meets an empty text no caller asks for.
 #include <gtest/gtest.h>
 
 #include <QLabel>
@@ -121,8 +122,13 @@ TEST(GrigliaCondizioni, WidthLimitsAndHighlight) {
     EXPECT_EQ(g.columnWidth(200), 11 * w);
 
     g.resize(600, 500);
+    g.PortaInVista(1);
+    EXPECT_EQ(g.item(4, 1)->background().color(), g.ColoreSelezione());
+    g.setCurrentCell(1, 1);  // the name row: bringing a column into view moves to row 2
     g.PortaInVista(3);
     EXPECT_EQ(g.ColonnaCorrente(), 3);
+    EXPECT_EQ(g.currentRow(), 2);
+    EXPECT_NE(g.item(4, 1)->background().color(), g.ColoreSelezione()) << "column 1 is repainted too";
     EXPECT_EQ(g.item(4, 3)->background().color(), g.ColoreSelezione());
     g.PortaInVista(150);
     EXPECT_EQ(g.ColonnaEvidenziata(), 150);
