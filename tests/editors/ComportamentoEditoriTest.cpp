@@ -1,10 +1,14 @@
 // Validation, the click rule, the values each type offers, the limits of
 // Ampiezza/Baricentro and the filling from a host's parameter text.
+// Mutation testing leaves unchecked the statistics window's stretch between
+// table and chart, and a pick copied from number 0, which never exists.
 #include <QCheckBox>
 #include <QLabel>
 #include <QTest>
 
 #include <functional>
+#include <map>
+#include <set>
 
 #include "AiutiEditori.h"
 #include "Condizione.h"
@@ -180,6 +184,27 @@ TEST(CalcolaLimiti, AmpiezzaEBaricentroDaiNumeriDelSistema) {
     }
 }
 
+// The statistics code each editor hands to the preview: the outside
+// component's own numbering, not the condition types'.
+TEST(Catalogo, CodiciStatisticaDegliEditori) {
+    const std::map<std::string, int> codici = {
+        {"F_PuntiSuAmpiezza", 1},        {"F_PuntiSuBaricentro", 2},      {"F_PuntiSuConsecutivi", 3},
+        {"F_PuntiSudistanzaMassima", 4}, {"F_PuntiSudistanzaMinima", 5}, {"F_PuntiSuInterruzioni", 6},
+        {"F_PuntiSuParalleli", 7},       {"F_PuntiSuPariDisp", 8},        {"F_PuntiSuPeso", 9},
+        {"F_PuntiSuPonte", 10},          {"F_PuntiSuPosizione", 11},      {"F_PuntisuColonna", 12},
+        {"F_PuntiSuSequenze", 13},       {"F_PuntiSuResto", 14},          {"F_PuntiSuSimmetrie", 15},
+        {"F_PuntiSuVortice", 16}};
+    std::set<std::string> visti;
+    for (int tipo = 0; tipo <= 20; ++tipo) {
+        const VoceCatalogo* voce = VoceDelTipo(tipo);
+        if (voce == nullptr) continue;
+        ASSERT_EQ(codici.count(voce->nomeDialogo), 1u) << voce->nomeDialogo;
+        EXPECT_EQ(voce->codiceStatistica, codici.at(voce->nomeDialogo)) << voce->nomeDialogo;
+        visti.insert(voce->nomeDialogo);
+    }
+    EXPECT_EQ(visti.size(), codici.size());
+}
+
 TEST(FiltroTasti, AmpiezzaAccettaSoloCifreEVirgolaEInvioPassaOltre) {
     FakeDialoghi dialoghi;
     auto e = Editore(combi::kAmpiezza, dialoghi);
@@ -193,7 +218,10 @@ TEST(FiltroTasti, AmpiezzaAccettaSoloCifreEVirgolaEInvioPassaOltre) {
     EXPECT_EQ(minimo->text(), "12,");
     QTest::keyClick(minimo, Qt::Key_Return);
     EXPECT_EQ(minimo->text(), "12,");
-    EXPECT_TRUE(W<QLineEdit>(*e, "TxtPunti_1")->hasFocus());
+    auto* massimo = W<QLineEdit>(*e, "TxtPunti_1");
+    EXPECT_TRUE(massimo->hasFocus());
+    QTest::keyClicks(massimo, "4x5");
+    EXPECT_EQ(massimo->text(), "45") << "the second box is filtered too";
     EXPECT_TRUE(e->isVisible());  // Enter never confirms the dialog
     // Other range editors take any key.
     auto d = Editore(combi::kDistanzaMassima, dialoghi);
