@@ -173,6 +173,25 @@ TEST(F_VerificaArchivio, ShowsTheDrawsWithHitsTheChartAndTheMoneyOfThePrizesType
     for (int r = 0; r < riaperto.GrdPremi()->rowCount(); ++r) EXPECT_EQ(riaperto.GrdPremi()->item(r, 1)->text(), "");
 }
 
+// Fifteen refused lines are told one by one; past fifteen the list ends in "...".
+TEST(F_VerificaArchivio, TellsUpToFifteenRefusedLines) {
+    for (int scartate : {15, 16}) {
+        Prova p;
+        {
+            std::ofstream archivio(p.archivio.toStdString());
+            archivio << "2024-01-02;Bari;1;2;4;10;11\n";
+            for (int i = 0; i < scartate; ++i) archivio << "2024-01-05;Bari;20;21;22;23\n";
+        }
+        F_VerificaArchivio f(p.b.c, p.b.dialoghi, p.impostazioni);
+        ASSERT_EQ(p.b.dialoghi.boxes.size(), 1u);
+        const QStringList righe = p.b.dialoghi.boxes[0].testo.split('\n');
+        EXPECT_EQ(righe[0], QString("L'archivio ha %1 righe che non sono estrazioni valide:").arg(scartate));
+        ASSERT_EQ(righe.size(), scartate == 15 ? 16 : 17) << scartate;
+        EXPECT_EQ(righe[15], "Riga 16: Bari vuole 5 numeri: la riga ne ha 4");
+        EXPECT_EQ(righe.back() == "...", scartate == 16);
+    }
+}
+
 // The prize table kept in the settings, points 0..20: a hand-edited item out
 // of range, not a number or negative is dropped alone.
 TEST(ImpostazioniStorico, PrizeTableRoundTripsAndBadItemsDropAlone) {
