@@ -124,6 +124,9 @@ TEST(F_VisualizzaColonne, WheelAndKeysMoveThePageAndTheLineSaysWhere) {
     Rotella(f, -60);
     EXPECT_EQ(f.Slider1()->value(), 1 + 2 * passo);
     EXPECT_EQ(f.LabPosizione()->text(), QString("colonna %1 di ").arg(1 + 2 * passo) + mille);
+    Rotella(f, 120);  // one notch up
+    EXPECT_EQ(f.Slider1()->value(), 1 + passo);
+    Rotella(f, -120);
     QTest::keyClick(f.ListView1(), Qt::Key_PageDown);
     EXPECT_EQ(f.Slider1()->value(), 1 + 2 * passo + F_VisualizzaColonne::kRighe);
     QTest::keyClick(f.ListView1(), Qt::Key_End);

@@ -108,6 +108,10 @@ TEST(Schedine, PagesHeadersAndMarks) {
     EXPECT_TRUE(inchiostro(0, 0.5, 0.2, 0.9));
     EXPECT_TRUE(inchiostro(0.5, 1, 0.2, 0.9)) << "the second column of the list";
 
+    // The boxes of a row lie side by side, none over its neighbour.
+    const QRectF prima = lotto.RettangoloSchedina(QRectF(QPointF(0, 0), kA4), 0);
+    for (int n = 1; n < 10; ++n)
+        EXPECT_FALSE(lotto.RettangoloCasella(prima, n).intersects(lotto.RettangoloCasella(prima, n + 1))) << n;
     // Page 2 starts at column 7: 7 17 27 37 47 marked, the rest not.
     const QImage seconda = Pagina(lotto, 1);
     const QRectF schedina = lotto.RettangoloSchedina(QRectF(QPointF(0, 0), kA4), 0);
@@ -138,6 +142,9 @@ TEST(Schedine, PdfHasEveryPage) {
         const QByteArray byte = pdf.readAll();
         EXPECT_TRUE(byte.startsWith("%PDF-"));
         EXPECT_EQ(QString::fromLatin1(byte).count(QRegularExpression("/Type\\s*/Page(?!s)")), c.pagine) << c.colonne;
+        // Every page drawn, the first included: a file of blank pages is a
+        // fraction of the size (no fonts, no drawing).
+        EXPECT_GT(byte.size(), 8000 * c.pagine) << c.colonne;
     }
     EXPECT_FALSE(EsportaPdf(Dati("Lotto", 3), Impaginazione::Schedine, cartella.filePath("manca/x.pdf")));
 }
