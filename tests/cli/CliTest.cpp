@@ -8,10 +8,12 @@
 #include <fstream>
 #include <sstream>
 
+#include "../engine/ColonnaDiProva.h"
 #include "Comandi.h"
 #include "Terminale.h"
 #include "DecodificaCondizioni.h"
 #include "FileBinario.h"
+#include "FileColonne.h"
 #include "FileSistema.h"
 #include "Formato.h"
 #include "Sviluppo.h"
@@ -186,6 +188,13 @@ TEST(Terminale, ProgressLineShowsShareSpeedAndTimeLeft) {
     spento.Progresso(50, 5);
     spento.Chiudi();
     EXPECT_EQ(err.str(), "");
+    // On a terminal the last count is always drawn, however soon it comes.
+    std::ostringstream terminale;
+    cli::OsservatoreTerminale acceso(terminale, 100, true);
+    acceso.Progresso(100, 5);
+    acceso.Chiudi();
+    EXPECT_NE(terminale.str().find("\r100 %   Sviluppate : 100   Condizionate : 5"), std::string::npos)
+        << terminale.str();
 }
 
 TEST_F(CliTest, InfoDescribesSystemsAndColumns) {
@@ -202,6 +211,9 @@ TEST_F(CliTest, InfoDescribesSystemsAndColumns) {
     ASSERT_EQ(Esegui({"info", P("v.col")}), 0);
     EXPECT_NE(out_.str().find("3 byte finali"), std::string::npos) << out_.str();
     EXPECT_NE(out_.str().find("  1: "), std::string::npos);
+    ScriviFileColonne(P("due.col"), {test::Col({1, 2, 3, 4, 5}), test::Col({6, 7, 8, 9, 10, 90})});
+    ASSERT_EQ(Esegui({"info", P("due.col")}), 0);
+    EXPECT_EQ(out_.str(), "Colonne : 2\n  1: 01 02 03 04 05\n  2: 06 07 08 09 10 90\n");
 }
 
 }  // namespace

@@ -116,6 +116,7 @@ TEST_F(StoricoTest, WrongCommandLinesAndUnreadableFilesAreRefused) {
         {{"storico", c, "--archivio", a, "--gioco", "Lotto", "--posta", "1,5"}, 2, "--posta"},
         {{"storico", c, "--archivio", a, "--gioco", "Lotto", "--premi", "2=10"}, 2, "--premi vuole anche --posta"},
         {{"storico", c, "--archivio", a, "--gioco", "Lotto", "--posta", "1", "--premi", "2:10"}, 2, "punti=premio"},
+        {{"storico", c, "--archivio", a, "--gioco", "Lotto", "--posta", "0.5", "--premi", "2:10"}, 2, "punti=premio"},
         {{"storico", c, "--archivio", a, "--gioco", "Lotto", "--settimane", "3"}, 2, "sconosciuta"},
         {{"storico", c, "--archivio", Percorso("manca.txt"), "--gioco", "Lotto"}, 1, "Errore 53"},
         {{"storico", Percorso("manca.col"), "--archivio", a, "--gioco", "Lotto"}, 1, "Errore"},
