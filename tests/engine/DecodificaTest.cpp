@@ -2,6 +2,7 @@
 
 #include <clocale>
 
+#include "Colonna.h"
 #include "DecodificaCondizioni.h"
 #include "LetturaNumero.h"
 
@@ -73,6 +74,18 @@ TEST(Decodifica, ParityTokensAreLinesOfExactLetters) {
     EXPECT_EQ(DecodificaPariDispari("PDD", f), 1);
     EXPECT_EQ(f[0], 0);
     EXPECT_EQ(f[1], -1);
+}
+
+// "Pari" marks the 45 even numbers, "Dispari" the 45 odd ones, nothing else.
+TEST(Decodifica, PariDispariMarksEveryEvenOrOddNumber) {
+    TestiGriglia g;
+    g.colonne = {Testi("Pari-Dispari", "Pari", "0"), Testi("Pari-Dispari", "Dispari", "0")};
+    const SistemaDecodificato s = LeggiCondizioni(g);
+    ASSERT_EQ(s.condizioni.size(), 2u);
+    for (int n = 0; n <= kMaxNumero; ++n) {
+        EXPECT_EQ(s.condizioni[0].Numeri[n] != 0, n > 0 && n % 2 == 0) << n;
+        EXPECT_EQ(s.condizioni[1].Numeri[n] != 0, n % 2 == 1) << n;
+    }
 }
 
 TEST(Decodifica, GridColumnsBecomeRecordsInGridOrder) {
