@@ -1,3 +1,6 @@
+// combifiltro-cli end to end. Running out of memory (exit code 1, "Memoria
+// insufficiente") cannot be brought about from a test; its exit code is not
+// checked here.
 #include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 

@@ -1,3 +1,7 @@
+// Decoding the grid texts. Two changes survive mutation testing and may:
+// the text after a one-character label is empty whether one or no character
+// is dropped, and reading "5." or "." takes the same digits whether the scan
+// past the point moves on when nothing follows it or not.
 #include <gtest/gtest.h>
 
 #include <clocale>

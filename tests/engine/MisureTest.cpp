@@ -1,3 +1,5 @@
+// The measures of one column. A direction other than 1 is inverse, so the
+// public inverse forms passing 3 instead of 2 give the same values.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -132,6 +134,7 @@ TEST(Misure, SequenzeMatchesOverlappingRunsAndReadsLettersByCase) {
     EXPECT_EQ(CalcolaSequenze(4, c, "pd"), 1);  // p even, d (not P) odd
     EXPECT_EQ(CalcolaSequenze(4, c, "DPD"), 1);
     EXPECT_EQ(CalcolaSequenze(4, c, "DPDPD"), 0);  // longer than the class
+    EXPECT_EQ(CalcolaSequenze(4, c, ""), 5);       // the empty pattern matches at each of the k + 1 starts
     EXPECT_EQ(CalcolaSequenze(5, Col({1, 3, 5, 7, 9}), "DD"), 4);  // overlapping
 }
 

@@ -1,3 +1,5 @@
+// The report lists' sort. A text whose key would be "not a number" cannot be
+// written (the reader takes digits only), so that key's value is never used.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -45,6 +47,9 @@ TEST(OrdinaLv, KeysOfEachKindSortInBothOrders) {
     }
     EXPECT_EQ(ChiaveNumerica("1,23456"), 12'346);
     EXPECT_EQ(ChiaveNumerica("-1" + std::string(30, '0')), std::numeric_limits<int64_t>::min());  // clamped
+    // 2^63 / 10000 scales to 2^63 exactly, one past the largest key: clamped too.
+    EXPECT_EQ(ChiaveNumerica("922337203685477,5808"), std::numeric_limits<int64_t>::max());
+    EXPECT_EQ(ChiaveNumerica("-922337203685477,5808"), std::numeric_limits<int64_t>::min());
 }
 
 TEST(OrdinaLv, EqualKeysFollowTheQuicksortAndRowsStayWhole) {
