@@ -86,6 +86,8 @@ TEST(AspettoPannello, NumbersTenARowAndTheirCount) {
         layout->getItemPosition(indice, &riga, &colonna, &righe, &colonne);
         EXPECT_EQ(riga, c.riga) << c.numero;
         EXPECT_EQ(colonna, c.colonna) << c.numero;
+        EXPECT_EQ(griglia.findChild<QToolButton*>(QString("Numero%1").arg(c.numero))->text(),
+                  QString::asprintf("%02d", c.numero));
     }
     QSignalSpy cambi(&griglia, &GrigliaNumeri::SelezioneCambiata);
     griglia.ImpostaNumero(1, true);

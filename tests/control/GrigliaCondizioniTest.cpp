@@ -56,6 +56,7 @@ TEST(GrigliaCondizioni, PrimaColonnaLiberaAndColonnaVuotaInterna) {
         {"current empty column right of a filled one", {1, 2, 3, 5}, 4, 4, 4},
         {"current column filled", {1, 2, 3}, 2, 4, 0},
         {"the first column empty", {2, 3}, 0, 4, 1},
+        {"the first column empty and current", {2, 3}, 1, 1, 1},
         {"current empty column, a filled one left, an empty one right", {1, 2, 3, 6}, 4, 4, 4},
         {"current empty column, an empty one left, a filled one right", {1, 5}, 4, 6, 2},
     };
