@@ -46,6 +46,8 @@ TEST(Misure, HandWorkedTable) {
          {4, 150, 6, 89, 1, 17, 5, 3, 34, 13, 3, 7, 7, 3, 9, 13, 7, 2}},
         // PDP, gaps 7 1, sum 255
         {3, Col({80, 87, 88, 89, 90}), {1, 167, 3, 8, 1, 7, 1, 0, 85, 2, 1, 0, 0, 1, 3, 1, 1, 0}},
+        // class 1: no pair at all (smallest gap 1000 by convention), sum 37
+        {1, Col({37, 38}), {0, 37, 2, 0, 1000, 0, 0, 0, 37, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
     };
     for (const Caso& caso : casi) {
         const ProfiloColonna pc = ProfilaColonna(caso.k, caso.c);
@@ -79,21 +81,8 @@ TEST(Misure, HandWorkedTable) {
     }
 }
 
-TEST(Misure, ClassOneHasNoPairs) {
-    const ProfiloColonna pc = ProfilaColonna(1, Col({37}));
-    EXPECT_EQ(MisuraAmpiezza(pc), 0);
-    EXPECT_EQ(MisuraDistanzaMinima(pc), 1000);
-    EXPECT_EQ(MisuraDistanzaMassima(pc), 0);
-    EXPECT_EQ(MisuraConsecutivi(pc), 0);
-    EXPECT_EQ(MisuraPonte(pc), 0);
-    EXPECT_EQ(MisuraInterruzioni(pc), 0);
-    EXPECT_EQ(MisuraSimmetrie(pc, 1), 0);
-    EXPECT_EQ(MisuraParalleli(pc, 1), 0);
-    EXPECT_EQ(MisuraVortice(pc, 1), 0);
-    EXPECT_EQ(MisuraVortice(pc, 2), 0);
-    EXPECT_EQ(MisuraBaricentro(pc), 37);
-    EXPECT_EQ(CalcolaBaricentro(1, Col({37})), 37);
-    // The class of a column is its last position holding a number.
+// The class of a column is its last position holding a number.
+TEST(Misure, ClasseDellaColonna) {
     EXPECT_EQ(ClasseDellaColonna(Col({37})), 1);
     EXPECT_EQ(ClasseDellaColonna(Colonna{}), 0);
     Colonna ultima;
@@ -109,6 +98,7 @@ TEST(Misure, BaricentroTruncatesInTheDevelopmentAndRoundsHalfEvenInPublic) {
         {Col({20, 27}), 23, 24},  // 47 / 2 = 23.5 -> 24 (even)
         {Col({1, 2, 4}), 2, 2},   // 7 / 3 = 2.33
         {Col({1, 2, 5}), 2, 3},   // 8 / 3 = 2.67
+        {Col({37}), 37, 37},
     };
     for (const Caso& caso : casi) {
         const int k = ClasseDellaColonna(caso.c);
@@ -138,20 +128,13 @@ TEST(Misure, SequenzeMatchesOverlappingRunsAndReadsLettersByCase) {
     EXPECT_EQ(CalcolaSequenze(5, Col({1, 3, 5, 7, 9}), "DD"), 4);  // overlapping
 }
 
-TEST(Misure, SetAndParameterMeasures) {
-    const Colonna c = Col({1, 2, 3});
-    const ProfiloColonna pc = ProfilaColonna(3, c);
-    EXPECT_EQ(MisuraResto(pc, 4), 2);
+// Past the table: no divisor, and positions outside the class or the record.
+TEST(Misure, ParametersOutsideTheirRange) {
+    const ProfiloColonna pc = ProfilaColonna(3, Col({1, 2, 3}));
     EXPECT_EQ(MisuraResto(pc, 0), -1);
-    EXPECT_EQ(MisuraPosizioni(pc, 2), 2);
     EXPECT_EQ(MisuraPosizioni(pc, 5), 0);   // beyond the class
     EXPECT_EQ(MisuraPosizioni(pc, 21), 0);  // outside the record
-    Insieme insieme{};
-    insieme[2] = insieme[3] = insieme[90] = -1;
-    EXPECT_EQ(MisuraPuntiColonna(pc, insieme), 2);
-    Insieme caselle{};
-    caselle[1] = caselle[3] = -1;
-    EXPECT_EQ(MisuraPeso(pc, caselle), 4);
+    EXPECT_EQ(MisuraPosizioni(pc, 0), 0);
 }
 
 }  // namespace
