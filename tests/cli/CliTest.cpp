@@ -191,9 +191,11 @@ TEST(Terminale, ProgressLineShowsShareSpeedAndTimeLeft) {
     spento.Progresso(50, 5);
     spento.Chiudi();
     EXPECT_EQ(err.str(), "");
-    // On a terminal the last count is always drawn, however soon it comes.
+    // On a terminal the last count is always drawn, however soon after the
+    // one before it comes.
     std::ostringstream terminale;
     cli::OsservatoreTerminale acceso(terminale, 100, true);
+    acceso.Progresso(10, 1);
     acceso.Progresso(100, 5);
     acceso.Chiudi();
     EXPECT_NE(terminale.str().find("\r100 %   Sviluppate : 100   Condizionate : 5"), std::string::npos)
