@@ -1,6 +1,3 @@
-// System and columns files. Checking a column's first number against the
-// record byte before it (position 0, always 0) instead of skipping it
-// changes no verdict: no number is below 1.
 #include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 

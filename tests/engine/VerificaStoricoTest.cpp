@@ -115,9 +115,20 @@ TEST(VerificaStorico, HandWorkedDrawsGiveTheirCountsTheBestDrawAndTheLongestDryR
 TEST(VerificaStorico, RefusesColumnsAndParametersItCannotCheck) {
     OsservatoreStorico oss;
     ParametriStorico p;
-    EXPECT_THROW(VerificaStorico({Col({1, 2, 3}), Col({5, 4})}, kArchivio, p, oss), Errore);  // not ascending
-    EXPECT_THROW(VerificaStorico({Col({1, 91})}, kArchivio, p, oss), Errore);
-    EXPECT_THROW(VerificaStorico({Col({})}, kArchivio, p, oss), Errore);
+    // The first column that is not 1..90 ascending then zeros is named.
+    const std::vector<std::vector<Colonna>> errate = {
+        {Col({1, 2, 3}), Col({5, 4})}, {Col({1, 91})}, {Col({})}, {Col({4, 5}), Col({6, 7}), Col({0, 2, 3})},
+        {Col({1, 2}), Col({1, 0, 3})}};
+    const int nominate[] = {2, 1, 1, 3, 2};
+    for (size_t i = 0; i < errate.size(); ++i) {
+        try {
+            VerificaStorico(errate[i], kArchivio, p, oss);
+            ADD_FAILURE() << "case " << i << " accepted";
+        } catch (const Errore& e) {
+            EXPECT_EQ(std::string(e.what()), "La colonna " + std::to_string(nominate[i]) +
+                                                 " non ha numeri crescenti da 1 a 90 seguiti da zeri");
+        }
+    }
     // The minimum within 1..20; a wheel only for the Lotto, one of its 11 (0..10).
     struct Caso { int minimo; GiocoArchivio gioco; std::optional<int> ruota; const char* messaggio; };
     const Caso casi[] = {
