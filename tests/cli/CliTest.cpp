@@ -191,6 +191,8 @@ TEST(Terminale, ProgressLineShowsShareSpeedAndTimeLeft) {
     spento.Progresso(50, 5);
     spento.Chiudi();
     EXPECT_EQ(err.str(), "");
+    std::ostringstream flusso;
+    EXPECT_FALSE(cli::SuTerminale(flusso)) << "only the standard streams can be a terminal";
     // On a terminal the last count is always drawn, however soon after the
     // one before it comes.
     std::ostringstream terminale;
