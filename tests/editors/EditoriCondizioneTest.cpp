@@ -231,3 +231,14 @@ TEST(EditoriCondizione, ValoriDiUnaClassePiuAltaIgnoratiConNota) {
     EXPECT_TRUE(pulito->Nota()->isHidden());
     EXPECT_EQ(pulito->GetParametri().quadro, " ");  // a file's empty panel is the blank item
 }
+
+// Resto's divisor is what follows the colon, with or without a blank.
+TEST(EditoriCondizione, IlDivisoreDelRestoSegueIDuePunti) {
+    FakeDialoghi dialoghi;
+    for (const char* testo : {"Resto a : 4", "Resto a :4", "Resto a:  4 "}) {
+        auto e = Editore(combi::kResto, dialoghi);
+        e->LeggiPunti(combi::TestiCondizione{"", "Resto", testo, "0-3", "", ""});
+        EXPECT_EQ(e->GetParametri().parametri, "Resto a : 4") << testo;
+        EXPECT_EQ(e->GetParametri().punti, "0-3") << testo;
+    }
+}
