@@ -55,8 +55,11 @@ QStringList Colonna(const QTreeWidget& lista, int c) {
 
 std::vector<int> Icone(const QTreeWidget& lista) {
     std::vector<int> icone;
-    for (int c = 1; c <= lista.columnCount(); ++c) icone.push_back(IconaIntestazione(lista, c));
-    return icone;
+    // Columns outside the list have no icon: 0 around the real ones.
+    for (int c = 0; c <= lista.columnCount() + 1; ++c) icone.push_back(IconaIntestazione(lista, c));
+    EXPECT_EQ(icone.front(), 0);
+    EXPECT_EQ(icone.back(), 0);
+    return std::vector<int>(icone.begin() + 1, icone.end() - 1);
 }
 
 }  // namespace

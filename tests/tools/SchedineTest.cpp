@@ -108,10 +108,12 @@ TEST(Schedine, PagesHeadersAndMarks) {
     EXPECT_TRUE(inchiostro(0, 0.5, 0.2, 0.9));
     EXPECT_TRUE(inchiostro(0.5, 1, 0.2, 0.9)) << "the second column of the list";
 
-    // The boxes of a row lie side by side, none over its neighbour.
+    // The boxes lie side by side, none over its neighbour in the row or below.
     const QRectF prima = lotto.RettangoloSchedina(QRectF(QPointF(0, 0), kA4), 0);
-    for (int n = 1; n < 10; ++n)
+    for (int n = 1; n < 10; ++n) {
         EXPECT_FALSE(lotto.RettangoloCasella(prima, n).intersects(lotto.RettangoloCasella(prima, n + 1))) << n;
+        EXPECT_FALSE(lotto.RettangoloCasella(prima, n).intersects(lotto.RettangoloCasella(prima, n + 10))) << n;
+    }
     // Page 2 starts at column 7: 7 17 27 37 47 marked, the rest not.
     const QImage seconda = Pagina(lotto, 1);
     const QRectF schedina = lotto.RettangoloSchedina(QRectF(QPointF(0, 0), kA4), 0);
