@@ -1,7 +1,9 @@
 // The conditions grid. Scanning for the first free column down to column 0
 // instead of 1 changes nothing: column 0 holds the heading "Condizione" and
 // is never free. Likewise a combo's exact-text search running one index past
-// its items (UtilitaSchermo) meets an empty text no caller asks for.
+// its items (UtilitaSchermo) meets an empty text no caller asks for, a cell
+// asked for one column past the grid is missing either way, and the number
+// grid's spacing of 2 pixels against 1 is nothing a user can tell.
 #include <gtest/gtest.h>
 
 #include <QLabel>
