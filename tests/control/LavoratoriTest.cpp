@@ -1,6 +1,9 @@
 // The reporting protocol of external development workers: progress sums,
 // completion when every field is filled, appending in field order, and the
 // counters gathered from the workers' system files.
+// The workers' counts start from whatever the fields are set to when a run
+// begins: they are emptied then, so the starting value of the counts (and
+// one spare slot) changes nothing a user sees.
 
 #include <gtest/gtest.h>
 
