@@ -102,6 +102,10 @@ TEST(AspettoPannello, NumbersTenARowAndTheirCount) {
     griglia.Pulisci();
     EXPECT_EQ(griglia.Conta(), 0) << "the only pick, number 1, cleared";
     EXPECT_EQ(cambi.count(), 2) << "one for the unpick, one for the whole clearing";
+    griglia.ImpostaDisponibile(9, false);
+    EXPECT_FALSE(griglia.Disponibile(9));
+    EXPECT_TRUE(griglia.Disponibile(10));
+    EXPECT_FALSE(griglia.Disponibile(91));
 }
 
 TEST(AspettoPannello, WorkersDefaultToTheCoresWhenNothingIsStored) {

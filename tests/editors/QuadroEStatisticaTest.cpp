@@ -58,6 +58,12 @@ TEST(QuadroRecuperi, ContaLeCondizioniEAbilitaSoloIQuadriUsati) {
     EXPECT_EQ(d.TxtMin(1)->text(), "1");  // shown though not editable
     EXPECT_EQ(d.TxtMax(1)->text(), "2");
     EXPECT_TRUE(d.TxtMin(2)->text().isEmpty());  // "-0": not in use
+    // Read again, the counts start over: panel 20 in use, then in use no more.
+    d.LeggiRecuperiInseriti(Griglia({"20"}, {}));
+    EXPECT_EQ(d.LabRecInseriti(20)->text(), "1");
+    d.LeggiRecuperiInseriti(Griglia({"3"}, {}));
+    EXPECT_EQ(d.LabRecInseriti(20)->text(), "0");
+    EXPECT_FALSE(d.TxtMin(20)->isEnabled());
 }
 
 TEST(QuadroRecuperi, RicostruisceLeVentiRigheDellaLista) {

@@ -209,6 +209,14 @@ TEST(ImpostazioniStorico, PrizeTableRoundTripsAndBadItemsDropAlone) {
     combi::TabellaPremi attesi{};
     attesi[0] = 5, attesi[2] = 7;
     EXPECT_EQ(impostazioni.Premi(combi::GiocoArchivio::kDieciELotto, 20), attesi);
+    // The stake: 1 when never set or unreadable, any amount from 0 up otherwise.
+    EXPECT_EQ(impostazioni.Posta(), 1.0);
+    for (double posta : {0.5, 0.0, 2.0}) {
+        impostazioni.SetPosta(posta);
+        EXPECT_EQ(impostazioni.Posta(), posta);
+    }
+    impostazioni.SetPosta(-1);
+    EXPECT_EQ(impostazioni.Posta(), 1.0);
 }
 
 TEST(F_VerificaArchivio, DoubleClickOpensTheWinningsCheckOnThatDraw) {
