@@ -3,6 +3,7 @@
 // Mutation testing leaves unchecked the statistics window's stretch between
 // table and chart, and a pick copied from number 0, which never exists.
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QLabel>
 #include <QTest>
 
@@ -133,6 +134,16 @@ TEST(ValoriOfferti, DipendonoDaClasseDivisoreESequenza) {
         caso.azione(*e);
         EXPECT_EQ(Chk(*e, "P", caso.primo - 1), nullptr);
         EXPECT_EQ(Chk(*e, "P", caso.ultimo + 1), nullptr);
+        // The first value offered opens the first row of boxes.
+        if (caso.ultimo >= caso.primo) {
+            for (QGridLayout* griglia : e->findChildren<QGridLayout*>()) {
+                const int indice = griglia->indexOf(Chk(*e, "P", caso.primo));
+                if (indice < 0) continue;
+                int riga = -1, colonna = -1, righe = 0, colonne = 0;
+                griglia->getItemPosition(indice, &riga, &colonna, &righe, &colonne);
+                EXPECT_EQ(riga * 100 + colonna, 0) << "row " << riga << " column " << colonna;
+            }
+        }
         for (int v = caso.primo; v <= caso.ultimo; ++v) {
             ASSERT_NE(Chk(*e, "P", v), nullptr) << v;
             EXPECT_EQ(Chk(*e, "P", v)->text(), QString::number(v));

@@ -102,6 +102,7 @@ TEST(Statistica, IlPulsanteApreLAnteprimaSenzaToccareLEditore) {
     auto* anteprima = e->findChild<F_Statistica*>();
     ASSERT_NE(anteprima, nullptr);
     EXPECT_FALSE(anteprima->Finita());  // counted off the user-interface thread
+    EXPECT_EQ(anteprima->findChild<QProgressBar*>("BarraAvanzamento")->minimum(), 0) << "the bar starts empty";
     EXPECT_EQ(anteprima->findChild<QLabel*>("LabIntestazione")->text(),
               "Distribuzione di Numero in posizione 2 \u2013 10ELotto, classe 5");
     EXPECT_EQ(anteprima->CodiceStatistica(), 11);
