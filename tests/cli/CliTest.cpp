@@ -1,3 +1,6 @@
+// combifiltro-cli end to end. Running out of memory (exit code 1, "Memoria
+// insufficiente") cannot be brought about from a test; its exit code is not
+// checked here.
 #include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
@@ -8,10 +11,12 @@
 #include <fstream>
 #include <sstream>
 
+#include "../engine/ColonnaDiProva.h"
 #include "Comandi.h"
 #include "Terminale.h"
 #include "DecodificaCondizioni.h"
 #include "FileBinario.h"
+#include "FileColonne.h"
 #include "FileSistema.h"
 #include "Formato.h"
 #include "Sviluppo.h"
@@ -135,6 +140,13 @@ TEST_F(CliTest, BadArgumentsAndHostileFilesGiveAMessageNotACrash) {
         {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--thread", "0"}, 2, "--thread"},
         {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--quota", "4/3"}, 2, "--quota"},
         {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--quota", "2"}, 2, "I/W"},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--quota", "0/3"}, 2,
+         "I di --quota deve essere un numero intero tra 1 e 3: \"0\""},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--quota", "1/0"}, 2,
+         "W di --quota deve essere un numero intero tra 1 e 4096: \"0\""},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--quota", "1/4097"}, 2, "tra 1 e 4096"},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--quota", "1/3", "--quota", "1/3"}, 2,
+         "opzione --quota ripetuta"},
         {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--velocissimo"}, 2, "sconosciuta"},
         {{"sviluppa", P("manca.sic"), "--colonne", P("x.col")}, 1, "Errore 53"},
         {{"sviluppa", P("corto.sic"), "--colonne", P("x.col")}, 1, "troppo corto"},
@@ -143,6 +155,8 @@ TEST_F(CliTest, BadArgumentsAndHostileFilesGiveAMessageNotACrash) {
         {{"sviluppa", P("s.sic"), "--colonne", P("nessuna/x.col")}, 1, "Impossibile"},
         {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--mpi", "--mpi"}, 2, "ripetuta"},
         {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--thread", "2", "--thread", "3"}, 2, "ripetuta"},
+        {{"sviluppa", P("s.sic"), "--colonne", P("x.col"), "--colonne", P("y.col")}, 2, "opzione --colonne ripetuta"},
+        {{"conta", P("s.sic"), "--silenzioso", "--silenzioso"}, 2, "opzione --silenzioso ripetuta"},
         {{"conta"}, 2, "un solo file"},
         {{"conta", P("s.sic"), "--colonne", P("x.col")}, 2, "sconosciuta"},
         {{"conta", P("manca.sic")}, 1, "Errore 53"},
@@ -177,6 +191,17 @@ TEST(Terminale, ProgressLineShowsShareSpeedAndTimeLeft) {
     spento.Progresso(50, 5);
     spento.Chiudi();
     EXPECT_EQ(err.str(), "");
+    std::ostringstream flusso;
+    EXPECT_FALSE(cli::SuTerminale(flusso)) << "only the standard streams can be a terminal";
+    // On a terminal the last count is always drawn, however soon after the
+    // one before it comes.
+    std::ostringstream terminale;
+    cli::OsservatoreTerminale acceso(terminale, 100, true);
+    acceso.Progresso(10, 1);
+    acceso.Progresso(100, 5);
+    acceso.Chiudi();
+    EXPECT_NE(terminale.str().find("\r100 %   Sviluppate : 100   Condizionate : 5"), std::string::npos)
+        << terminale.str();
 }
 
 TEST_F(CliTest, InfoDescribesSystemsAndColumns) {
@@ -193,6 +218,9 @@ TEST_F(CliTest, InfoDescribesSystemsAndColumns) {
     ASSERT_EQ(Esegui({"info", P("v.col")}), 0);
     EXPECT_NE(out_.str().find("3 byte finali"), std::string::npos) << out_.str();
     EXPECT_NE(out_.str().find("  1: "), std::string::npos);
+    ScriviFileColonne(P("due.col"), {test::Col({1, 2, 3, 4, 5}), test::Col({6, 7, 8, 9, 10, 90})});
+    ASSERT_EQ(Esegui({"info", P("due.col")}), 0);
+    EXPECT_EQ(out_.str(), "Colonne : 2\n  1: 01 02 03 04 05\n  2: 06 07 08 09 10 90\n");
 }
 
 }  // namespace

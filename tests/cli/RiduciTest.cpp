@@ -1,3 +1,4 @@
+#include "../engine/ColonnaDiProva.h"
 #include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
@@ -29,12 +30,7 @@ protected:
     std::ostringstream out_, err_;
 };
 
-Colonna Col(std::initializer_list<int> numeri) {
-    Colonna c;
-    int pos = 1;
-    for (int n : numeri) c[pos++] = uint8_t(n);
-    return c;
-}
+using test::Col;
 
 TEST_F(RiduciSpoglioTest, BothReductionPathsWriteTheSameFileFromWholeRecords) {
     std::vector<Colonna> colonne;
@@ -59,17 +55,30 @@ TEST_F(RiduciSpoglioTest, WrongInputGivesAMessageAndAnExitCode) {
     ScriviFileColonne(P("buono.col"), {Col({1, 2, 3, 4, 5, 6})});
     ScriviFileColonne(P("corto.col"), {Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 4, 5})});
     ScriviFileColonne(P("vuoto.col"), {});
+    ScriviFileColonne(P("doppio.col"), {Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 4, 5, 7}), Col({8, 9, 10, 11, 9, 12})});
     struct Caso { cli::Parole parole; int codice; std::string messaggio; };
     const Caso casi[] = {
         {{"riduci", P("buono.col"), "--colonne", P("o.col")}, 2, "manca --punti"},
         {{"riduci", P("buono.col"), "--punti", "7", "--colonne", P("o.col")}, 2, "--punti deve"},
+        {{"riduci", P("buono.col"), "--punti", "0", "--colonne", P("o.col")}, 2,
+         "--punti deve essere un numero intero tra 1 e 10: \"0\""},
+        {{"riduci", P("buono.col"), "--punti", "3", "--punti", "4", "--colonne", P("o.col")}, 2,
+         "opzione --punti ripetuta"},
+        {{"riduci", P("buono.col"), "--punti", "3", "--colonne", P("o.col"), "--riferimento", "--riferimento"}, 2,
+         "opzione --riferimento ripetuta"},
         {{"riduci", P("manca.col"), "--punti", "3", "--colonne", P("o.col")}, 1,
          "Errore 53- Il file delle colonne non esiste"},
         {{"riduci", P("corto.col"), "--punti", "3", "--colonne", P("o.col")}, 1, "La colonna 2 "},
+        {{"riduci", P("doppio.col"), "--punti", "3", "--colonne", P("o.col")}, 1,
+         "La colonna 3 non ha sei numeri diversi da 1 a 90 nelle prime sei posizioni"},
         {{"spoglio", P("buono.col"), "--estrazione", "0,5"}, 2, "Inserire numeri da 1 a 90"},
         {{"spoglio", P("buono.col"), "--estrazione", "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21"}, 2,
          "La colonna vincente deve contenere massimo 20 numeri"},
         {{"spoglio", P("vuoto.col"), "--estrazione", "5"}, 2, "--classe"},
+        {{"spoglio", P("buono.col"), "--estrazione", "5", "--minimo", "0"}, 2,
+         "--minimo deve essere un numero intero tra 1 e 10: \"0\""},
+        {{"spoglio", P("buono.col"), "--estrazione", "5", "--minimo", "11"}, 2, "tra 1 e 10"},
+        {{"spoglio", P("buono.col"), "--estrazione", "5", "--classe", "21"}, 2, "--classe deve essere"},
     };
     for (const Caso& c : casi) {
         EXPECT_EQ(Esegui(c.parole), c.codice) << c.messaggio;

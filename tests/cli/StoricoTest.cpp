@@ -91,6 +91,16 @@ TEST_F(StoricoTest, PrintsTotalsBestDrawLongestDelayAndMoneyPerYear) {
               "Anno 2024 : giocato 60.00, vinto 375.00, saldo 315.00\n"
               "Totale : giocato 70.00, vinto 375.00, saldo 305.00\n");
     EXPECT_EQ(err_.str(), "Riga 6: Bari vuole 5 numeri: la riga ne ha 4\n");
+    // Roma alone: its one draw pays, so no draw went without a hit.
+    ASSERT_EQ(Esegui({"storico", Percorso("c.col"), "--archivio", Percorso("a.txt"), "--gioco", "Lotto", "--ruota",
+                      "Roma"}), 0) << err_.str();
+    EXPECT_EQ(out_.str(),
+              "Vincite con 3 punti : 1\n"
+              "Vincite con 2 punti : 0\n"
+              "Estrazioni controllate : 1\n"
+              "Estrazioni con vincite : 1\n"
+              "Migliore estrazione : 2024-01-04 Roma 1,2,3,40,41 (3 punti: 1 colonna)\n"
+              "Ritardo massimo : 0 estrazioni\n");
 }
 
 TEST_F(StoricoTest, WrongCommandLinesAndUnreadableFilesAreRefused) {
@@ -116,6 +126,7 @@ TEST_F(StoricoTest, WrongCommandLinesAndUnreadableFilesAreRefused) {
         {{"storico", c, "--archivio", a, "--gioco", "Lotto", "--posta", "1,5"}, 2, "--posta"},
         {{"storico", c, "--archivio", a, "--gioco", "Lotto", "--premi", "2=10"}, 2, "--premi vuole anche --posta"},
         {{"storico", c, "--archivio", a, "--gioco", "Lotto", "--posta", "1", "--premi", "2:10"}, 2, "punti=premio"},
+        {{"storico", c, "--archivio", a, "--gioco", "Lotto", "--posta", "0.5", "--premi", "2:10"}, 2, "punti=premio"},
         {{"storico", c, "--archivio", a, "--gioco", "Lotto", "--settimane", "3"}, 2, "sconosciuta"},
         {{"storico", c, "--archivio", Percorso("manca.txt"), "--gioco", "Lotto"}, 1, "Errore 53"},
         {{"storico", Percorso("manca.col"), "--archivio", a, "--gioco", "Lotto"}, 1, "Errore"},

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QGridLayout>
+#include <QSignalSpy>
+
 #include <QImage>
 #include <QToolButton>
 
@@ -68,6 +71,41 @@ TEST(AspettoPannello, PickedNumbersStandOutFromTheFreeOnes) {
     griglia.ImpostaDisponibile(9, false);
     const Colori spento = ColoriDisegnati(griglia.findChild<QToolButton*>("Numero9"));
     EXPECT_GE(Contrasto(s.sfondo, spento.sfondo), 3.0);
+}
+
+// Ten numbers a row, 1..10 on the first; the count follows the picks, the
+// first and the last number included, and clearing clears them.
+TEST(AspettoPannello, NumbersTenARowAndTheirCount) {
+    GrigliaNumeri griglia;
+    auto* layout = griglia.findChild<QGridLayout*>();
+    ASSERT_NE(layout, nullptr);
+    struct Caso { int numero, riga, colonna; } casi[] = {{1, 0, 0}, {9, 0, 8}, {10, 0, 9}, {11, 1, 0}, {90, 8, 9}};
+    for (const Caso& c : casi) {
+        int riga = -1, colonna = -1, righe = 0, colonne = 0;
+        const int indice = layout->indexOf(griglia.findChild<QToolButton*>(QString("Numero%1").arg(c.numero)));
+        layout->getItemPosition(indice, &riga, &colonna, &righe, &colonne);
+        EXPECT_EQ(riga, c.riga) << c.numero;
+        EXPECT_EQ(colonna, c.colonna) << c.numero;
+        EXPECT_EQ(griglia.findChild<QToolButton*>(QString("Numero%1").arg(c.numero))->text(),
+                  QString::asprintf("%02d", c.numero));
+    }
+    QSignalSpy cambi(&griglia, &GrigliaNumeri::SelezioneCambiata);
+    griglia.ImpostaNumero(1, true);
+    EXPECT_EQ(griglia.Conta(), 1);
+    griglia.ImpostaNumero(90, true);
+    griglia.ImpostaNumero(91, true);
+    EXPECT_EQ(griglia.Conta(), 2);
+    EXPECT_TRUE(griglia.Selezionato(90));
+    EXPECT_FALSE(griglia.Selezionato(91));
+    cambi.clear();
+    griglia.ImpostaNumero(90, false);
+    griglia.Pulisci();
+    EXPECT_EQ(griglia.Conta(), 0) << "the only pick, number 1, cleared";
+    EXPECT_EQ(cambi.count(), 2) << "one for the unpick, one for the whole clearing";
+    griglia.ImpostaDisponibile(9, false);
+    EXPECT_FALSE(griglia.Disponibile(9));
+    EXPECT_TRUE(griglia.Disponibile(10));
+    EXPECT_FALSE(griglia.Disponibile(91));
 }
 
 TEST(AspettoPannello, WorkersDefaultToTheCoresWhenNothingIsStored) {

@@ -96,6 +96,7 @@ TEST(F_LinkClose, InsertedAndEditedFromThePanel) {
     modifica.Prepara({}, 0);
     b.c.GetGridCond()->setCurrentCell(3, 6);
     b.c.EseguiComando("Edit");
+    EXPECT_EQ(modifica.caselle, 4) << "editing offers the same 0..3 as inserting";
     EXPECT_EQ(modifica.giaSpuntate, (std::vector<int>{1, 3})) << "editing reads the column back";
     EXPECT_EQ(b.Cella(3, 6), "1-3");
 

@@ -1,3 +1,9 @@
+// The conditions grid. Scanning for the first free column down to column 0
+// instead of 1 changes nothing: column 0 holds the heading "Condizione" and
+// is never free. Likewise a combo's exact-text search running one index past
+// its items (UtilitaSchermo) meets an empty text no caller asks for, a cell
+// asked for one column past the grid is missing either way, and the number
+// grid's spacing of 2 pixels against 1 is nothing a user can tell.
 #include <gtest/gtest.h>
 
 #include <QLabel>
@@ -37,23 +43,31 @@ TEST(GrigliaCondizioni, LayoutShapesAnEmptyGrid) {
     EXPECT_FALSE(g.item(1, 3)->flags() & Qt::ItemIsSelectable) << "row 1 is fixed";
 }
 
-TEST(GrigliaCondizioni, PrimaColonnaLibera) {
+// Where a new condition goes, and the first empty column before the last
+// condition (0: none).
+TEST(GrigliaCondizioni, PrimaColonnaLiberaAndColonnaVuotaInterna) {
     struct Caso {
         const char* nome;
         std::vector<int> piene;
         int corrente;
         int attesa;
+        int vuota;
     } casi[] = {
-        {"empty grid", {}, 0, 1},
-        {"gap after the last condition", {1, 2, 3, 5}, 9, 6},
-        {"current empty column right of a filled one", {1, 2, 3, 5}, 4, 4},
-        {"current column filled", {1, 2, 3}, 2, 4},
+        {"empty grid", {}, 0, 1, 0},
+        {"gap after the last condition", {1, 2, 3, 5}, 9, 6, 4},
+        {"current empty column right of a filled one", {1, 2, 3, 5}, 4, 4, 4},
+        {"current column filled", {1, 2, 3}, 2, 4, 0},
+        {"the first column empty", {2, 3}, 0, 4, 1},
+        {"the first column empty and current", {2, 3}, 1, 1, 1},
+        {"current empty column, a filled one left, an empty one right", {1, 2, 3, 6}, 4, 4, 4},
+        {"current empty column, an empty one left, a filled one right", {1, 5}, 4, 6, 2},
     };
     for (const Caso& caso : casi) {
         GrigliaCondizioni g;
         for (int c : caso.piene) g.ImpostaTesto(1, c, "Ponte");
         if (caso.corrente > 0) g.setCurrentCell(2, caso.corrente);
         EXPECT_EQ(g.PrimaColonnaLibera(), caso.attesa) << caso.nome;
+        EXPECT_EQ(g.ColonnaVuotaInterna(), caso.vuota) << caso.nome;
     }
     GrigliaCondizioni piena;
     for (int c = 1; c <= 200; ++c) piena.ImpostaTesto(1, c, "Ponte");
@@ -111,8 +125,13 @@ TEST(GrigliaCondizioni, WidthLimitsAndHighlight) {
     EXPECT_EQ(g.columnWidth(200), 11 * w);
 
     g.resize(600, 500);
+    g.PortaInVista(1);
+    EXPECT_EQ(g.item(4, 1)->background().color(), g.ColoreSelezione());
+    g.setCurrentCell(1, 1);  // the name row: bringing a column into view moves to row 2
     g.PortaInVista(3);
     EXPECT_EQ(g.ColonnaCorrente(), 3);
+    EXPECT_EQ(g.currentRow(), 2);
+    EXPECT_NE(g.item(4, 1)->background().color(), g.ColoreSelezione()) << "column 1 is repainted too";
     EXPECT_EQ(g.item(4, 3)->background().color(), g.ColoreSelezione());
     g.PortaInVista(150);
     EXPECT_EQ(g.ColonnaEvidenziata(), 150);
@@ -120,6 +139,12 @@ TEST(GrigliaCondizioni, WidthLimitsAndHighlight) {
     EXPECT_TRUE(g.ColonnaInteramenteVisibile(150));
     g.PortaInVista(2);
     EXPECT_EQ(g.ColonnaSinistra(), 2) << "a column left of the view becomes the leftmost";
+    g.ImpostaColonnaSinistra(40);
+    EXPECT_EQ(g.ColonnaSinistra(), 40);
+    for (int fuori : {0, -3, 201}) {
+        g.ImpostaColonnaSinistra(fuori);
+        EXPECT_EQ(g.ColonnaSinistra(), 40) << fuori << " is no column: the view stays";
+    }
 
     // The colour is the background of the panel's hidden label, read anew.
     QLabel fonte;

@@ -1,6 +1,9 @@
 // The reporting protocol of external development workers: progress sums,
 // completion when every field is filled, appending in field order, and the
 // counters gathered from the workers' system files.
+// The workers' counts start from whatever the fields are set to when a run
+// begins: they are emptied then, so the starting value of the counts (and
+// one spare slot) changes nothing a user sees.
 
 #include <gtest/gtest.h>
 
@@ -62,7 +65,7 @@ TEST(Lavoratori, CompletionWaitsForEveryFieldWhateverTheOrder) {
         EXPECT_FALSE(b.c.InSviluppo());
         ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << "clearing the fields must not merge again";
         EXPECT_EQ(b.dialoghi.boxes[0].tipo, "informazione");
-        EXPECT_EQ(b.dialoghi.boxes[0].testo, QString::fromStdString(combi::TempoTrascorso(3725)));
+        EXPECT_EQ(b.dialoghi.boxes[0].testo, "01:02:05");
     } while (std::next_permutation(ordine.begin(), ordine.end()));
 }
 

@@ -250,6 +250,11 @@ TEST(Pannello, ConditionEntryThroughEditors) {
     b.c.EseguiComando("Edit");
     EXPECT_EQ(b.Cella(3, 1), "4-5") << "the editor read the column back and confirmed it";
     EXPECT_EQ(b.Cella(2, 1), "Caselle :\r\n1-2");
+    b.c.GetGridCond()->ImpostaTesto(4, 1, "x");
+    b.c.GetGridCond()->ImpostaTesto(5, 1, "y");
+    b.c.EseguiComando("Edit");
+    EXPECT_EQ(b.Cella(4, 1), "-") << "the recovery row as the editor gives it";
+    EXPECT_EQ(b.Cella(5, 1), " ") << "the panel row as the editor gives it";
 
     for (int c = 2; c <= 200; ++c) b.Condizione(c, "Ponte");
     b.c.EseguiComando("LinkOpen");

@@ -17,28 +17,34 @@ namespace {
 // The game combo stays usable during a run, but the panel keeps showing the
 // system that runs: the class list refills only when the run has ended.
 TEST(StatiPannello, AGameChosenDuringARunIsAppliedWhenItEnds) {
-    Banco b;
-    b.NumeriDa1A(25);
-    b.c.setClasse(6);  // 177100 columns, all kept
-    QSignalSpy occupato(&b.c, &CombiFiltroA::OccupatoCambiato);
-    QString classeDurante, giocoDurante;
-    bool giocoAbilitato = false;
-    QTimer::singleShot(0, &b.c, [&] {
-        giocoAbilitato = b.c.CmbTipoGioco()->isEnabled();
-        b.c.CmbTipoGioco()->setCurrentText("10ELotto");  // the user picks another game
-        classeDurante = b.c.CmbClasse()->currentText();
-        giocoDurante = b.c.CmbTipoGioco()->currentText();
-    });
-    b.c.GestSviluppo();
-    EXPECT_TRUE(giocoAbilitato);
-    EXPECT_EQ(classeDurante, "6");
-    EXPECT_EQ(giocoDurante, "Lotto");
-    EXPECT_EQ(b.c.QuantitaColonne(), 177100);
-    EXPECT_EQ(b.c.CmbTipoGioco()->currentText(), "10ELotto");
-    EXPECT_EQ(b.c.CmbClasse()->currentText(), "10") << "the game's own class once the run ended";
-    ASSERT_EQ(occupato.size(), 2);
-    EXPECT_TRUE(occupato[0][0].toBool());
-    EXPECT_FALSE(occupato[1][0].toBool());
+    // The first game of the list (index 0) waits as well as any other.
+    struct Caso { const char* prima; const char* scelto; const char* classe; } casi[] = {
+        {"Lotto", "10ELotto", "10"}, {"SuperEnalotto", "Lotto", "5"}};
+    for (const Caso& caso : casi) {
+        Banco b;
+        b.c.CmbTipoGioco()->setCurrentText(caso.prima);
+        b.NumeriDa1A(25);
+        b.c.setClasse(6);  // 177100 columns, all kept
+        QSignalSpy occupato(&b.c, &CombiFiltroA::OccupatoCambiato);
+        QString classeDurante, giocoDurante;
+        bool giocoAbilitato = false;
+        QTimer::singleShot(0, &b.c, [&] {
+            giocoAbilitato = b.c.CmbTipoGioco()->isEnabled();
+            b.c.CmbTipoGioco()->setCurrentText(caso.scelto);  // the user picks another game
+            classeDurante = b.c.CmbClasse()->currentText();
+            giocoDurante = b.c.CmbTipoGioco()->currentText();
+        });
+        b.c.GestSviluppo();
+        EXPECT_TRUE(giocoAbilitato);
+        EXPECT_EQ(classeDurante, "6");
+        EXPECT_EQ(giocoDurante, caso.prima);
+        EXPECT_EQ(b.c.QuantitaColonne(), 177100);
+        EXPECT_EQ(b.c.CmbTipoGioco()->currentText(), caso.scelto);
+        EXPECT_EQ(b.c.CmbClasse()->currentText(), caso.classe) << "the game's own class once the run ended";
+        ASSERT_EQ(occupato.size(), 2);
+        EXPECT_TRUE(occupato[0][0].toBool());
+        EXPECT_FALSE(occupato[1][0].toBool());
+    }
 }
 
 // A column left empty stops the development's reading there: it is marked,

@@ -84,6 +84,32 @@ TEST(SviluppoPannello, ConditionsAndLinkGroupsFromTheGrid) {
     }
 }
 
+// "Riduzione N-K" picked on the panel reaches the development. Class 5 of
+// 1..7: any two of the 21 columns share 3 or 4 numbers. With K = 1 a column
+// sharing 4 with the last one kept is dropped; walked by hand in order that
+// keeps 12345, 12367, 12456, 13457, 23456. With K = 2 sharing 3 is enough to
+// drop, so only the first column stays.
+TEST(SviluppoPannello, RiduzioneNKChosenOnThePanel) {
+    struct Caso { const char* riduzione; const char* garanzia; QStringList colonne; } casi[] = {
+        {"1", "4", {"01 02 03 04 05", "01 02 03 06 07", "01 02 04 05 06", "01 03 04 05 07", "02 03 04 05 06"}},
+        {"2", "3", {"01 02 03 04 05"}},
+        {" ", "5", {}},
+    };
+    for (const Caso& caso : casi) {
+        Banco b;
+        b.NumeriDa1A(7);
+        b.c.CmbRid()->setCurrentText(caso.riduzione);
+        EXPECT_EQ(b.c.LabGaranzia()->text(),
+                  QString("A condizioni superate garanzia ") + caso.garanzia);
+        b.c.GestSviluppo();
+        EXPECT_EQ(Cifre(b.c.LabSviluppate()->text()), "21") << caso.riduzione;
+        QStringList tenute;
+        for (int i = 1; i <= b.c.QuantitaColonne(); ++i) tenute << b.c.GetColonnaSviluppo(i);
+        if (caso.colonne.isEmpty()) EXPECT_EQ(tenute.size(), 21);
+        else EXPECT_EQ(tenute, caso.colonne) << caso.riduzione;
+    }
+}
+
 TEST(SviluppoPannello, StopAskedDuringTheDevelopment) {
     for (bool interrompi : {true, false}) {
         Banco b;
@@ -91,6 +117,8 @@ TEST(SviluppoPannello, StopAskedDuringTheDevelopment) {
         b.Condizione(1, "Ponte", "P", "0-1-2-3-4");  // every column passes
         b.c.SetColonnaGrid(1);
         b.dialoghi.risposte = {interrompi};
+        int stopLavoratori = 0;  // the workers' stop is not this development's
+        b.c.RegistraComando("StopLavoratori", [&] { ++stopLavoratori; });
         bool statoVerificato = false;
         QTimer::singleShot(0, &b.c, [&] {
             // The first event pump of the running development.
@@ -112,6 +140,7 @@ TEST(SviluppoPannello, StopAskedDuringTheDevelopment) {
         });
         b.c.GestSviluppo();
         EXPECT_TRUE(statoVerificato);
+        EXPECT_EQ(stopLavoratori, 0);
         const QStringList testi = b.dialoghi.Testi();
         ASSERT_EQ(testi.size(), 2) << "only Stop reacted while developing: " << testi.join(" | ").toStdString();
         EXPECT_TRUE(b.dialoghi.dialoghiFile.empty());

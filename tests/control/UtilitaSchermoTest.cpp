@@ -66,6 +66,12 @@ TEST(SegnalazioneErrori, GuardedOperationsReportAndSwallow) {
         SegnalaEccezioneCorrente(d, "CombiFiltro.LayOutGrid", 30017);
     }
     EXPECT_EQ(d.boxes.size(), prima) << "error 0 and an ignored number show nothing";
+    try {
+        throw combi::Errore(75, "Errore di accesso");
+    } catch (...) {
+        SegnalaEccezioneCorrente(d, "CombiFiltro.LayOutGrid", 30017);
+    }
+    EXPECT_EQ(d.boxes.size(), prima + 1) << "only the ignored number is ignored";
     EseguiProtetta(d, "CombiFiltro.Prova", [] { throw std::runtime_error("rotto"); });
     EXPECT_EQ(d.boxes.back().testo, "5- rotto");
 }

@@ -1,10 +1,15 @@
 // Validation, the click rule, the values each type offers, the limits of
 // Ampiezza/Baricentro and the filling from a host's parameter text.
+// Mutation testing leaves unchecked the statistics window's stretch between
+// table and chart, and a pick copied from number 0, which never exists.
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QLabel>
 #include <QTest>
 
 #include <functional>
+#include <map>
+#include <set>
 
 #include "AiutiEditori.h"
 #include "Condizione.h"
@@ -48,6 +53,10 @@ TEST(VerificaCoerenza, MostraIlMessaggioDellUltimoControlloFallito) {
         {"non numerici", combi::kDistanzaMinima, minmax("a", "b", " ", "", ""), "Impostare i punti da realizzare"},
         {"ultimo vince", combi::kBaricentro, minmax("5", "3", "2", "", ""), "Impostare i punti di recupero"},
         {"recupero rovesciato", combi::kAmpiezza, minmax("1", "3", "2", "9", "4"), "Range punti recupero non valido"},
+        {"minimo uguale al massimo", combi::kPeso, minmax("4", "4", " ", "", ""), nullptr},
+        {"recupero di un solo valore", combi::kAmpiezza, minmax("1", "3", "2", "5", "5"), nullptr},
+        {"un solo valore, zero", combi::kDistanzaMinima, minmax("0", "0", " ", "", ""),
+         "Impostare i punti da realizzare"},
         {"intervallo completo", combi::kAmpiezza, minmax("1", "3", "2", "4", "9"), nullptr},
         {"sequenza vuota", combi::kSequenze, [](F_PuntiSuBase& e) { Clic(e, "ChkPunti_0"); }, "Impostare la sequenza"},
     };
@@ -125,6 +134,16 @@ TEST(ValoriOfferti, DipendonoDaClasseDivisoreESequenza) {
         caso.azione(*e);
         EXPECT_EQ(Chk(*e, "P", caso.primo - 1), nullptr);
         EXPECT_EQ(Chk(*e, "P", caso.ultimo + 1), nullptr);
+        // The first value offered opens the first row of boxes.
+        if (caso.ultimo >= caso.primo) {
+            for (QGridLayout* griglia : e->findChildren<QGridLayout*>()) {
+                const int indice = griglia->indexOf(Chk(*e, "P", caso.primo));
+                if (indice < 0) continue;
+                int riga = -1, colonna = -1, righe = 0, colonne = 0;
+                griglia->getItemPosition(indice, &riga, &colonna, &righe, &colonne);
+                EXPECT_EQ(riga * 100 + colonna, 0) << "row " << riga << " column " << colonna;
+            }
+        }
         for (int v = caso.primo; v <= caso.ultimo; ++v) {
             ASSERT_NE(Chk(*e, "P", v), nullptr) << v;
             EXPECT_EQ(Chk(*e, "P", v)->text(), QString::number(v));
@@ -176,6 +195,27 @@ TEST(CalcolaLimiti, AmpiezzaEBaricentroDaiNumeriDelSistema) {
     }
 }
 
+// The statistics code each editor hands to the preview: the outside
+// component's own numbering, not the condition types'.
+TEST(Catalogo, CodiciStatisticaDegliEditori) {
+    const std::map<std::string, int> codici = {
+        {"F_PuntiSuAmpiezza", 1},        {"F_PuntiSuBaricentro", 2},      {"F_PuntiSuConsecutivi", 3},
+        {"F_PuntiSudistanzaMassima", 4}, {"F_PuntiSudistanzaMinima", 5}, {"F_PuntiSuInterruzioni", 6},
+        {"F_PuntiSuParalleli", 7},       {"F_PuntiSuPariDisp", 8},        {"F_PuntiSuPeso", 9},
+        {"F_PuntiSuPonte", 10},          {"F_PuntiSuPosizione", 11},      {"F_PuntisuColonna", 12},
+        {"F_PuntiSuSequenze", 13},       {"F_PuntiSuResto", 14},          {"F_PuntiSuSimmetrie", 15},
+        {"F_PuntiSuVortice", 16}};
+    std::set<std::string> visti;
+    for (int tipo = 0; tipo <= 20; ++tipo) {
+        const VoceCatalogo* voce = VoceDelTipo(tipo);
+        if (voce == nullptr) continue;
+        ASSERT_EQ(codici.count(voce->nomeDialogo), 1u) << voce->nomeDialogo;
+        EXPECT_EQ(voce->codiceStatistica, codici.at(voce->nomeDialogo)) << voce->nomeDialogo;
+        visti.insert(voce->nomeDialogo);
+    }
+    EXPECT_EQ(visti.size(), codici.size());
+}
+
 TEST(FiltroTasti, AmpiezzaAccettaSoloCifreEVirgolaEInvioPassaOltre) {
     FakeDialoghi dialoghi;
     auto e = Editore(combi::kAmpiezza, dialoghi);
@@ -189,7 +229,10 @@ TEST(FiltroTasti, AmpiezzaAccettaSoloCifreEVirgolaEInvioPassaOltre) {
     EXPECT_EQ(minimo->text(), "12,");
     QTest::keyClick(minimo, Qt::Key_Return);
     EXPECT_EQ(minimo->text(), "12,");
-    EXPECT_TRUE(W<QLineEdit>(*e, "TxtPunti_1")->hasFocus());
+    auto* massimo = W<QLineEdit>(*e, "TxtPunti_1");
+    EXPECT_TRUE(massimo->hasFocus());
+    QTest::keyClicks(massimo, "4x5");
+    EXPECT_EQ(massimo->text(), "45") << "the second box is filtered too";
     EXPECT_TRUE(e->isVisible());  // Enter never confirms the dialog
     // Other range editors take any key.
     auto d = Editore(combi::kDistanzaMassima, dialoghi);

@@ -1,5 +1,8 @@
 // Entering, editing and cancelling a condition of every type, and the texts
 // it leaves in the grid.
+// The editors' Pulsante(i) handle is reached by the product for button 0
+// only; the other buttons are pressed by name, so a change in its upper bound
+// is nothing a user can meet.
 #include <QCheckBox>
 #include <QTest>
 #include <QLabel>
@@ -227,4 +230,15 @@ TEST(EditoriCondizione, ValoriDiUnaClassePiuAltaIgnoratiConNota) {
     pulito->LeggiPunti(combi::TestiCondizione{"", "Consecutivi", "", "1", "", ""});
     EXPECT_TRUE(pulito->Nota()->isHidden());
     EXPECT_EQ(pulito->GetParametri().quadro, " ");  // a file's empty panel is the blank item
+}
+
+// Resto's divisor is what follows the colon, with or without a blank.
+TEST(EditoriCondizione, IlDivisoreDelRestoSegueIDuePunti) {
+    FakeDialoghi dialoghi;
+    for (const char* testo : {"Resto a : 4", "Resto a :4", "Resto a:  4 "}) {
+        auto e = Editore(combi::kResto, dialoghi);
+        e->LeggiPunti(combi::TestiCondizione{"", "Resto", testo, "0-3", "", ""});
+        EXPECT_EQ(e->GetParametri().parametri, "Resto a : 4") << testo;
+        EXPECT_EQ(e->GetParametri().punti, "0-3") << testo;
+    }
 }

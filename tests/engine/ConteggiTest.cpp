@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 
 #include "Conteggi.h"
+#include "ConteggioMaschere.h"
 
 namespace combi {
 namespace {
@@ -17,6 +19,36 @@ TEST(Conteggi, FactorialsAndIntegralCounts) {
     EXPECT_EQ(Combinazioni(90, 6), 622614630u);
     EXPECT_EQ(Combinazioni(90, 20), UINT64_MAX);  // beyond 64 bits: saturates
     EXPECT_EQ(Combinazioni(90, 10), 5720645481903ull);
+    // No way to choose a negative count, or more than there are.
+    struct Caso { int n, k; uint64_t attese; };
+    for (const Caso& c : {Caso{5, -1, 0}, Caso{-1, -2, 0}, Caso{-1, 0, 0}, Caso{4, 5, 0}, Caso{5, 0, 1}, Caso{0, 0, 1},
+                          Caso{7, 7, 1}, Caso{7, 6, 7}, Caso{20, 10, 184756}})
+        EXPECT_EQ(Combinazioni(c.n, c.k), c.attese) << c.n << "," << c.k;
+}
+
+// The values a range accepts, as bits: clamped to 0..63, none when reversed.
+// And the candidates held by an accepted number of masks, against a count
+// bit by bit, for every number of masks up to 70 (the written-out cases
+// 0..3 and the bit-sliced count beyond).
+TEST(Conteggi, MasksCountedPerCandidate) {
+    struct Intervallo { int64_t da, a; uint64_t bit; };
+    for (const Intervallo& c : {Intervallo{3, 0, 0}, Intervallo{5, 5, 1u << 5}, Intervallo{-2, 1, 0b11},
+                                Intervallo{0, 63, ~uint64_t{0}}, Intervallo{60, 70, uint64_t{0xF} << 60},
+                                Intervallo{64, 70, 0}, Intervallo{2, 4, 0b11100}})
+        EXPECT_EQ(ValoriTra(c.da, c.a), c.bit) << c.da << ".." << c.a;
+    std::mt19937_64 rng(29);
+    for (size_t n = 0; n <= 70; ++n) {
+        std::vector<Maschera128> maschere(n);
+        for (Maschera128& m : maschere) m = {rng() & rng(), rng() | rng()};
+        const uint64_t valori = n % 5 == 0 ? ValoriTra(0, 1) : rng();
+        const Maschera128 esito = ConteggioInInsieme(maschere.data(), n, valori);
+        for (int candidato = 0; candidato < 128; ++candidato) {
+            int quante = 0;
+            for (const Maschera128& m : maschere) quante += m.Contiene(candidato);
+            const bool atteso = quante < 64 && ((valori >> quante) & 1);
+            ASSERT_EQ(esito.Contiene(candidato), atteso) << n << " masks, candidate " << candidato;
+        }
+    }
 }
 
 TEST(Conteggi, EnumerationIsLexicographicAndUnrankingAgrees) {

@@ -7,6 +7,7 @@
 #include <random>
 
 #include "Errore.h"
+#include "OsservatoriDiProva.h"
 #include "Riduzione.h"
 #include "RiduzioneFasi.h"
 
@@ -16,25 +17,7 @@ namespace {
 using riduzione::Rappresentativita;
 using riduzione::TabellaRappresentativita;
 
-// Every call the reduction makes, in order, and a stop that starts at the
-// k-th message pump (0: never).
-class Registro : public OsservatoreRiduzione {
-public:
-    explicit Registro(int stopAlPasso = 0) : stopAl_(stopAlPasso) {}
-    void Fase(const std::string& t) override { eventi.push_back(std::string("F").append(t)); }
-    void Percentuale(int p) override { eventi.push_back(std::string("P").append(std::to_string(p))); }
-    void ElaboraMessaggi() override {
-        ++pompe;
-        eventi.push_back("M");
-    }
-    bool RichiestaStop() override { return stopAl_ > 0 && pompe >= stopAl_; }
-    std::vector<std::string> eventi;
-    int pompe = 0;
-
-private:
-    int stopAl_;
-};
-
+using test::Registro;
 using test::Col;
 
 int Comuni(const Colonna& a, const Colonna& b, int classe = 6) {
@@ -44,38 +27,7 @@ int Comuni(const Colonna& a, const Colonna& b, int classe = 6) {
     return k;
 }
 
-// Columns of a class drawn from the numbers 1..pool, with exact copies (the
-// numbers shuffled, a tail after them changed: it is not compared) and copies
-// with one number changed.
-std::vector<Colonna> ColonneCasuali(uint32_t seme, size_t n, int pool, int classe = 6) {
-    std::mt19937 rng(seme);
-    std::vector<int> numeri(static_cast<size_t>(pool), 0);
-    std::iota(numeri.begin(), numeri.end(), 1);
-    std::vector<Colonna> v;
-    while (v.size() < n) {
-        const int caso = int(rng() % 10);
-        Colonna c;
-        if (caso < 2 && !v.empty()) {
-            c = v[rng() % v.size()];
-            std::shuffle(c.Numeri.begin(), c.Numeri.begin() + classe, rng);
-            c[classe + 1] = uint8_t(rng() % 90 + 1);
-        } else if (caso < 4 && !v.empty()) {
-            c = v[rng() % v.size()];
-            std::shuffle(numeri.begin(), numeri.end(), rng);
-            for (int x : numeri)
-                if (std::find(c.Numeri.begin(), c.Numeri.begin() + classe, x) == c.Numeri.begin() + classe) {
-                    c[int(rng() % unsigned(classe)) + 1] = uint8_t(x);
-                    break;
-                }
-        } else {
-            std::shuffle(numeri.begin(), numeri.end(), rng);
-            std::sort(numeri.begin(), numeri.begin() + std::min(classe, pool));
-            for (int p = 1; p <= std::min(classe, pool); ++p) c[p] = uint8_t(numeri[size_t(p) - 1]);
-        }
-        v.push_back(c);
-    }
-    return v;
-}
+using test::ColonneCasuali;
 
 // The promise of a complete reduction: kept columns do not cover each other,
 // and every dropped column is covered by a kept one.

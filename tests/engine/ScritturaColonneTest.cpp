@@ -1,6 +1,10 @@
 // Columns written as a run produces them, and held past the memory: the file
 // on disk and the mapped temporary file must hold exactly the columns given,
-// in order; a full disk must leave the old file and no partial one.
+// in order; a full disk must leave the old file and no partial one. Whether a
+// batch of exactly 65,536 bytes goes straight to the file or through the
+// buffer changes only when the bytes reach it, never which bytes. The full
+// disk is brought about with a file size limit (EFBIG); a real ENOSPC, which
+// no test can cause, is read by the same comparison.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

@@ -71,7 +71,8 @@ private:
         const int massimo[] = {0, 0, 0, 0, 0, 600, 0, 90, 0, 0, 0, 0, 90, 40, 60, 90};
         t[kRigaPunti] = elenco ? Elenco(0, std::min(10, k + 1)) : Intervallo(massimo[std::min(tipo, 15)]);
         t[kRigaRecupero] = elenco ? Elenco(0, std::min(10, k + 1)) : Intervallo(massimo[std::min(tipo, 15)]);
-        t[kRigaQuadroRec] = Tra(0, 1) ? std::to_string(Tra(1, 3)) : " ";
+        const int quadri[] = {1, 2, 3, 19, 20};  // the first panels and the last
+        t[kRigaQuadroRec] = Tra(0, 1) ? std::to_string(quadri[Tra(0, 4)]) : " ";
         switch (tipo) {
         case kPuntiColonna:
             for (int n : p.numeri)

@@ -91,6 +91,11 @@ TEST(Spoglio, ColumnsScoreEachPositionOnce) {
     EXPECT_EQ(VerificaVincite(colonne, 7, "5,6", 2).vincite, (std::vector<RigaVincita>{{1, "01 02 03 04 05 06", 2},
                                                                                        {5, "01 02 03 04 06 07 05", 2}}));
     EXPECT_EQ(VerificaVincite(colonne, 6, "5,5.5", 1).vincite.size(), 2u);
+    // Neither cut down nor rounded: 5.5, 6.5 and 4.999 hit no column, only 12 counts.
+    for (const char* estrazione : {"5.5,12", "6.5,12", "12,4.999"})
+        EXPECT_EQ(VerificaVincite(colonne, 6, estrazione, 1).vincite,
+                  (std::vector<RigaVincita>{{2, "05 12 20 30 40 90", 1}, {3, "12 13 14 15 16 90", 1}}))
+            << estrazione;
 }
 
 TEST(Spoglio, SummaryRunsFromTheClassDownToTheMinimum) {

@@ -1,8 +1,19 @@
+// The development: the fast path against the plain loop on random systems of
+// every class, and worked examples. Mutation testing leaves a few changes
+// alive that no user can see: when the per-row condition order is re-sorted
+// and how many pieces wait for the writer (speed only), the level or key
+// count of a measure's table (one more is unused), the unreachable return
+// after a switch over every kind; and the merge of the threads' counters
+// running one element past its array, which changes no count in a release
+// build: only a sanitizer build (the AddressSanitizer run of scripts/test.sh)
+// can see it.
 #include <gtest/gtest.h>
 
 #include <system_error>
 
+#include "ColonnaDiProva.h"
 #include "ColonneInMemoria.h"
+#include "OsservatoriDiProva.h"
 #include "Conteggi.h"
 #include "Errore.h"
 #include "VerificaColonna.h"
@@ -13,30 +24,10 @@
 namespace combi {
 namespace {
 
-// Stops once the reported count of tested columns reaches a threshold, and
-// records every progress report.
-class Osservatore : public OsservatoreSviluppo {
-public:
-    explicit Osservatore(uint64_t fermaA = UINT64_MAX) : fermaA_(fermaA) {}
-    void Progresso(uint64_t testate, uint64_t tenute) override { rapporti.push_back({testate, tenute}); }
-    bool RichiestaStop() override { return !rapporti.empty() && rapporti.back().first >= fermaA_; }
-    void ElaboraMessaggi() override { ++pompe; }
-    std::vector<std::pair<uint64_t, uint64_t>> rapporti;
-    int pompe = 0;
+using test::Col;
 
-private:
-    uint64_t fermaA_;
-};
-
-void ExpectStessoRisultato(const RisultatoSviluppo& a, const RisultatoSviluppo& b, const std::string& caso) {
-    EXPECT_EQ(a.testate, b.testate) << caso;
-    EXPECT_EQ(a.interrotto, b.interrotto) << caso;
-    ASSERT_EQ(a.colonne.size(), b.colonne.size()) << caso;
-    EXPECT_TRUE(a.colonne == b.colonne) << caso;
-    ASSERT_EQ(a.condizioni.size(), b.condizioni.size()) << caso;
-    for (size_t i = 0; i < a.condizioni.size(); ++i)
-        EXPECT_EQ(a.condizioni[i], b.condizioni[i]) << caso << " condition " << i;
-}
+using test::ExpectStessoRisultato;
+using test::Osservatore;
 
 ParametriSviluppo Sistema(int n, int k, std::vector<TestiCondizione> colonne = {}, int riduzione = 0) {
     ParametriSviluppo p;
@@ -158,15 +149,21 @@ TEST(Sviluppo, AThreadThatCannotStartLeavesTheOthersToFinish) {
 }
 
 TEST(Sviluppo, ReductionDropsColumnsTooCloseToThePreviousKeptOne) {
-    // Class 6, K = 1: R = 5. The first column 1..6 is kept; 1 2 3 4 5 7 shares 5: dropped.
+    // Class 6 of 8 numbers, K = 1: R = 5. Any two of the 28 columns share 4
+    // or 5 numbers; walked by hand in order, a column is kept when it shares
+    // only 4 with the last one kept: 123456, then 123478 (123457 .. 123468
+    // share 5), 123567, 124568, 134567, 234568.
+    const std::vector<Colonna> attese = {Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 4, 7, 8}), Col({1, 2, 3, 5, 6, 7}),
+                                         Col({1, 2, 4, 5, 6, 8}), Col({1, 3, 4, 5, 6, 7}), Col({2, 3, 4, 5, 6, 8})};
     const ParametriSviluppo p = Sistema(8, 6, {}, 1);
+    for (int thread : {1, 2}) {
+        Osservatore o;
+        const RisultatoSviluppo r = SviluppaSistema(p, o, {.thread = thread, .quota = {}});
+        EXPECT_TRUE(r.colonne == attese) << thread << " threads: " << r.colonne.size() << " kept";
+        EXPECT_EQ(r.testate, 28u);
+    }
     Osservatore o;
-    const RisultatoSviluppo r = SviluppaSistema(p, o);
-    ASSERT_GE(r.colonne.size(), 2u);
-    EXPECT_EQ(r.colonne[0][6], 6);
-    for (size_t i = 1; i < r.colonne.size(); ++i)
-        EXPECT_LT(ContaComuni(6, r.colonne[i], r.colonne[i - 1]), 5);
-    EXPECT_EQ(r.testate, 28u);
+    EXPECT_TRUE(SviluppaSistemaRiferimento(p, o).colonne == attese);
 }
 
 TEST(Sviluppo, EdgeSizesAndBadParameters) {

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "DecodificaCondizioni.h"
@@ -41,8 +42,9 @@ TEST(TestiOstili, RandomGridTextsDecodeAndDevelopSafely) {
         for (int q = std::uniform_int_distribution<int>(0, 25)(rng); q > 0; --q) g.quadri.push_back(TestoCasuale(rng));
         const SistemaDecodificato s = LeggiCondizioni(g);
         ParametriSviluppo p;
-        p.classe = std::uniform_int_distribution<int>(1, 13)(rng);
-        for (int n = 1; n <= p.classe + 2; ++n) p.numeri.push_back(n * 6);
+        // Every class, 17..20 included, whose parity measures are judged per block.
+        p.classe = std::uniform_int_distribution<int>(1, kMaxClasse)(rng);
+        for (int n = 1; n <= p.classe + 2; ++n) p.numeri.push_back(n * 4);
         p.condizioni = s.condizioni;
         p.quadri = s.quadri;
         OsservatoreSviluppo o;
@@ -60,14 +62,15 @@ TEST(TestiOstili, RandomSystemFilesLoadOrFailWithAMessage) {
         std::vector<uint8_t> byte(std::uniform_int_distribution<size_t>(0, 587 + 270 * 3)(rng));
         for (uint8_t& b : byte) b = uint8_t(rng());
         // Keep the header's class plausible half of the time so some files develop.
-        if (byte.size() > 8 && caso % 2) byte[7] = uint8_t(1 + rng() % 6), byte[8] = 0;
+        if (byte.size() > 8 && caso % 2) byte[7] = uint8_t(1 + rng() % kMaxClasse), byte[8] = 0;
         // Known type codes, so that the measures meet the random sets and parameters.
         for (size_t r = 317; r + 1 < byte.size(); r += 270) byte[r] = uint8_t(rng() % 19), byte[r + 1] = 0;
         try {
             const FileSistema s = DecodificaSistema(byte.data(), byte.size());
             ++caricati;
             ParametriSviluppo p = ParametriDalFile(s);
-            if (p.numeri.size() > 14) p.numeri.resize(14);
+            const size_t numeri = std::max<size_t>(14, size_t(p.classe) + 2);
+            if (p.numeri.size() > numeri) p.numeri.resize(numeri);
             OsservatoreSviluppo o;
             try {
                 const RisultatoSviluppo a = SviluppaSistemaRiferimento(p, o);

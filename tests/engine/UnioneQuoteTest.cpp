@@ -2,6 +2,7 @@
 
 #include "Conteggi.h"
 #include "Errore.h"
+#include "OsservatoriDiProva.h"
 #include "PacchettoQuota.h"
 #include "SistemiCasuali.h"
 #include "Sviluppo.h"
@@ -10,26 +11,8 @@
 namespace combi {
 namespace {
 
-class StopDopo : public OsservatoreSviluppo {
-public:
-    explicit StopDopo(uint64_t soglia = UINT64_MAX) : soglia_(soglia) {}
-    void Progresso(uint64_t testate, uint64_t) override { testate_ = testate; }
-    bool RichiestaStop() override { return testate_ >= soglia_; }
-
-private:
-    uint64_t soglia_;
-    uint64_t testate_ = 0;
-};
-
-void ExpectStessoRisultato(const RisultatoSviluppo& a, const RisultatoSviluppo& b, const std::string& caso) {
-    EXPECT_EQ(a.testate, b.testate) << caso;
-    EXPECT_EQ(a.interrotto, b.interrotto) << caso;
-    EXPECT_EQ(a.colonne.size(), b.colonne.size()) << caso;
-    EXPECT_TRUE(a.colonne == b.colonne) << caso;
-    ASSERT_EQ(a.condizioni.size(), b.condizioni.size()) << caso;
-    for (size_t i = 0; i < a.condizioni.size(); ++i)
-        EXPECT_EQ(a.condizioni[i], b.condizioni[i]) << caso << " condition " << i;
-}
+using test::ExpectStessoRisultato;
+using test::Osservatore;
 
 // Shares 1..W developed apart without "Riduzione N-K", each handed over as
 // bytes the way another process would send it.
@@ -52,7 +35,7 @@ TEST(UnioneQuote, JoinedSharesEqualTheWholeDevelopmentWithAndWithoutReduction) {
         // Every system once without the reduction and once with a K that drops columns.
         for (int riduzione : {0, p.classe > 1 ? gen.Tra(1, p.classe - 1) : 0}) {
             p.riduzione = riduzione;
-            StopDopo o;
+            Osservatore o;
             const RisultatoSviluppo intero = SviluppaSistema(p, o);
             for (int w : {1, 2, 3, 7, 40}) {
                 const std::string nome = "case " + std::to_string(caso) + " K=" +
@@ -61,7 +44,7 @@ TEST(UnioneQuote, JoinedSharesEqualTheWholeDevelopmentWithAndWithoutReduction) {
                                       intero, nome);
                 if (HasFailure()) return;
             }
-            StopDopo o2;
+            Osservatore o2;
             ParametriSviluppo senza = p;
             senza.riduzione = 0;
             if (SviluppaSistema(senza, o2).colonne.size() > intero.colonne.size()) ++ridotti;
@@ -113,10 +96,10 @@ ParametriSviluppo SistemaPariDispari(int n, int k, int riduzione) {
 TEST(UnioneQuote, AStoppedShareEndsTheJoinedRunAsAPrefix) {
     const ParametriSviluppo p = SistemaPariDispari(24, 6, 2);  // 134596 columns, about 45000 a share
 
-    StopDopo tutto;
+    Osservatore tutto;
     const RisultatoSviluppo intero = SviluppaSistema(p, tutto);
     std::vector<RisultatoSviluppo> quote = QuoteSenzaRiduzione(p, 3, tutto);
-    StopDopo ferma(10000);
+    Osservatore ferma(10000);
     ParametriSviluppo senza = p;
     senza.riduzione = 0;
     quote[1] = SviluppaSistema(senza, ferma, {.thread = 1, .quota = {2, 3}});
@@ -144,7 +127,7 @@ TEST(UnioneQuote, BadSharesAndDamagedBytesAreRefused) {
     b.condizioni.resize(3);
     EXPECT_THROW(UnisciQuote({a, b}, 5, 0), Errore);
 
-    StopDopo o;
+    Osservatore o;
     const RisultatoSviluppo quota = SviluppaSistema(SistemaPariDispari(12, 5, 0), o);
     ASSERT_FALSE(quota.colonne.empty());
     const std::vector<uint8_t> dati = CodificaQuota(quota);

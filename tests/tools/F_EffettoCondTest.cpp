@@ -11,6 +11,7 @@
 #include "CollegaStrumenti.h"
 #include "F_EffettoCond.h"
 #include "GrigliaCondizioni.h"
+#include "Screenshot.h"
 
 namespace {
 
@@ -59,16 +60,13 @@ TEST(F_EffettoCond, CountsAndSharesOfTheLastDevelopment) {
               QStringList({"3", "Punti Col.", "126", "50", "126", "50", "126", "50"}));
     EXPECT_EQ(Testi(lista->topLevelItem(4)), QStringList({"5", "LinkClose", "", "", "", "", "", ""}));
 
-    // Every condition is measured on every column: the row follows the table.
-    const combi::Condizione& ampiezza = b.c.CondizioniUltimoSviluppo().at(3);
-    EXPECT_EQ(ampiezza.ContaSuperate + ampiezza.ContaFallite, 252);
-    const QTreeWidgetItem* riga = lista->topLevelItem(3);
-    EXPECT_EQ(riga->text(1), "Ampiezza");
-    EXPECT_EQ(Cifre(riga->text(2)).toInt(), ampiezza.ContaSuperate);
-    EXPECT_EQ(riga->text(3).toInt(), ampiezza.ContaSuperate * 100 / 252);
-    EXPECT_EQ(Cifre(riga->text(4)).toInt(), ampiezza.ContaFallite);
-    EXPECT_EQ(riga->text(5).toInt(), ampiezza.ContaFallite * 100 / 252);
-    EXPECT_EQ(Cifre(riga->text(6)).toInt(), ampiezza.ContaRecuperabili);
+    // Every condition is measured on every column. Ampiezza a = largest -
+    // smallest: (10 - a) places for the pair, C(a - 1, 3) middles; 5..7 gives
+    // 5*4 + 4*10 + 3*20 = 120 of 252 (47 %, cut down), the other 132 (52 %).
+    EXPECT_EQ(Testi(lista->topLevelItem(3)), QStringList({"4", "Ampiezza", "120", "47", "132", "52", "0", "0"}));
+    // Figures to the right, the condition's name to the left.
+    for (int c = 0; c < lista->columnCount(); ++c)
+        EXPECT_EQ(lista->topLevelItem(3)->textAlignment(c) & Qt::AlignRight ? 1 : 0, c == 1 ? 0 : 1) << c;
 
     // Shares are of the integral system as it is now: with 7 numbers left
     // (21 columns) the counts of the 252 exceed it and stop at 100.
@@ -115,10 +113,7 @@ TEST(F_EffettoCond, ToolbarOpensItModally) {
     EXPECT_EQ(b.dialoghi.boxes.size(), boxPrima) << "no message along the way";
 }
 
-TEST(Screenshot, EffettoCondizioni) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(EffettoCondizioni) {
     Banco b;
     SviluppaSistemaDiProva(b);
     F_EffettoCond effetto(b.c);

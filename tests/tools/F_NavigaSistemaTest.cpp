@@ -11,6 +11,7 @@
 #include "GrigliaCondizioni.h"
 #include "RegistroControllo.h"
 #include "UtilitaSchermo.h"
+#include "Screenshot.h"
 
 namespace {
 
@@ -175,10 +176,7 @@ TEST(F_NavigaSistema, DeinitUnloadsTheWindow) {
     EXPECT_EQ(b.c.findChild<F_NavigaSistema*>(), nullptr);
 }
 
-TEST(Screenshot, NavigaSistema) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(NavigaSistema) {
     Banco b;
     SistemaConGruppi(b);
     F_NavigaSistema navigatore(b.c);

@@ -23,55 +23,30 @@
 #include <random>
 
 #include "../control/Banco.h"
+#include "../engine/ColonnaDiProva.h"
+#include "../engine/OsservatoriDiProva.h"
 #include "CollegaStrumenti.h"
 #include "F_Riduzione.h"
 #include "FileColonne.h"
 #include "Riduzione.h"
 #include "RiduzioneOttimizzata.h"
 #include "UtilitaSchermo.h"
+#include "Screenshot.h"
 
 namespace {
 
 using combi::Colonna;
 
-// Six different numbers out of 1..`numeri`, ascending, with a few exact
-// copies so that every guarantee drops something.
-std::vector<Colonna> ColonneCasuali(uint32_t seme, size_t quante, int numeri, int classe = 6) {
-    std::mt19937 rng(seme);
-    std::vector<int> urna(static_cast<size_t>(numeri));
-    std::iota(urna.begin(), urna.end(), 1);
-    std::vector<Colonna> v;
-    while (v.size() < quante) {
-        if (!v.empty() && rng() % 8 == 0) {
-            v.push_back(v[rng() % v.size()]);
-            continue;
-        }
-        std::shuffle(urna.begin(), urna.end(), rng);
-        std::sort(urna.begin(), urna.begin() + classe);
-        Colonna c;
-        for (int p = 1; p <= classe; ++p) c[p] = static_cast<uint8_t>(urna[static_cast<size_t>(p) - 1]);
-        v.push_back(c);
-    }
-    return v;
-}
+using combi::test::ColonneCasuali;
 
-// The engine on its own, with a stop seen from the k-th message pump on
-// (0: never). Counts the pumps of the run.
-class Fermata : public combi::OsservatoreRiduzione {
-public:
-    explicit Fermata(int alPasso = 0) : alPasso_(alPasso) {}
-    void ElaboraMessaggi() override { ++pompe; }
-    bool RichiestaStop() override { return alPasso_ > 0 && pompe >= alPasso_; }
-    int pompe = 0;
+using combi::test::Registro;
 
-private:
-    int alPasso_;
-};
-
-// What the control must hold after the run: element 0 empty, then the columns left.
+// What the control must hold after the run: element 0 empty, then the columns
+// left, as the plain all-pairs reduction keeps them (the window runs the
+// indexed one).
 std::vector<Colonna> Attese(const std::vector<Colonna>& colonne, int punti, int stopAlPasso = 0) {
-    Fermata fermata(stopAlPasso);
-    std::vector<Colonna> v = combi::RiduciColonne(colonne, punti, fermata).colonne;
+    Registro fermata(stopAlPasso);
+    std::vector<Colonna> v = combi::RiduciColonneRiferimento(colonne, punti, fermata).colonne;
     v.insert(v.begin(), Colonna{});
     return v;
 }
@@ -652,12 +627,9 @@ TEST(CollegaStrumenti, RiduzioneOpensTheWindowAndRefreshesTheColumnCommands) {
     EXPECT_TRUE(b.c.Pulsante("VisualizzaColonne")->isEnabled());
 }
 
-// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// Not a check: with --screenshot (scripts/screenshot-strumenti.sh)
 // it saves a picture of the window after a reduction.
-TEST(Screenshot, Riduzione) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(Riduzione) {
     BancoRiduzione r;
     r.Scegli(r.Scrivi("Esempio.col", ColonneCasuali(2026, 5000, 24)));
     r.Garanzia(1);

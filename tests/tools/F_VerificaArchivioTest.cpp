@@ -1,3 +1,5 @@
+// "Verifica su archivio" and the settings it keeps. Writing a prize with a
+// field width of 1 instead of 0 changes nothing (a number is never shorter).
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -25,6 +27,8 @@
 #include "../control/Banco.h"
 #include "F_Spoglio.h"
 #include "F_VerificaArchivio.h"
+#include "ImpostazioniStorico.h"
+#include "Screenshot.h"
 
 namespace {
 
@@ -169,6 +173,52 @@ TEST(F_VerificaArchivio, ShowsTheDrawsWithHitsTheChartAndTheMoneyOfThePrizesType
     for (int r = 0; r < riaperto.GrdPremi()->rowCount(); ++r) EXPECT_EQ(riaperto.GrdPremi()->item(r, 1)->text(), "");
 }
 
+// Fifteen refused lines are told one by one; past fifteen the list ends in "...".
+TEST(F_VerificaArchivio, TellsUpToFifteenRefusedLines) {
+    for (int scartate : {15, 16}) {
+        Prova p;
+        {
+            std::ofstream archivio(p.archivio.toStdString());
+            archivio << "2024-01-02;Bari;1;2;4;10;11\n";
+            for (int i = 0; i < scartate; ++i) archivio << "2024-01-05;Bari;20;21;22;23\n";
+        }
+        F_VerificaArchivio f(p.b.c, p.b.dialoghi, p.impostazioni);
+        ASSERT_EQ(p.b.dialoghi.boxes.size(), 1u);
+        const QStringList righe = p.b.dialoghi.boxes[0].testo.split('\n');
+        EXPECT_EQ(righe[0], QString("L'archivio ha %1 righe che non sono estrazioni valide:").arg(scartate));
+        ASSERT_EQ(righe.size(), scartate == 15 ? 16 : 17) << scartate;
+        EXPECT_EQ(righe[15], "Riga 16: Bari vuole 5 numeri: la riga ne ha 4");
+        EXPECT_EQ(righe.back() == "...", scartate == 16);
+    }
+}
+
+// The prize table kept in the settings, points 0..20: a hand-edited item out
+// of range, not a number or negative is dropped alone.
+TEST(ImpostazioniStorico, PrizeTableRoundTripsAndBadItemsDropAlone) {
+    QTemporaryDir cartella;
+    QSettings settings(cartella.filePath("premi.ini"), QSettings::IniFormat);
+    ImpostazioniStorico impostazioni(settings);
+    combi::TabellaPremi premi{};
+    premi[0] = 5, premi[3] = 0.1 + 0.2, premi[20] = 1e6;
+    impostazioni.SetPremi(combi::GiocoArchivio::kDieciELotto, 20, premi);
+    EXPECT_EQ(impostazioni.Premi(combi::GiocoArchivio::kDieciELotto, 20), premi);
+    EXPECT_EQ(impostazioni.Premi(combi::GiocoArchivio::kDieciELotto, 19), combi::TabellaPremi{});
+    const QStringList chiavi = settings.allKeys();
+    ASSERT_EQ(chiavi.size(), 1);
+    settings.setValue(chiavi[0], QStringList{"0=5", "21=3", "-1=2", "x=1", "4=abc", "2=7", "5=-1", "6=inf", "7"});
+    combi::TabellaPremi attesi{};
+    attesi[0] = 5, attesi[2] = 7;
+    EXPECT_EQ(impostazioni.Premi(combi::GiocoArchivio::kDieciELotto, 20), attesi);
+    // The stake: 1 when never set or unreadable, any amount from 0 up otherwise.
+    EXPECT_EQ(impostazioni.Posta(), 1.0);
+    for (double posta : {0.5, 0.0, 2.0}) {
+        impostazioni.SetPosta(posta);
+        EXPECT_EQ(impostazioni.Posta(), posta);
+    }
+    impostazioni.SetPosta(-1);
+    EXPECT_EQ(impostazioni.Posta(), 1.0);
+}
+
 TEST(F_VerificaArchivio, DoubleClickOpensTheWinningsCheckOnThatDraw) {
     Prova p;
     F_VerificaArchivio f(p.b.c, p.b.dialoghi, p.impostazioni);
@@ -224,12 +274,9 @@ TEST(F_VerificaArchivio, StopAskedDuringTheCheckKeepsTheDrawsAlreadyChecked) {
 
 }  // namespace
 
-// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// Not a check: with --screenshot (scripts/screenshot-strumenti.sh)
 // the pages over the synthetic archive are saved as pictures.
-TEST(Screenshot, VerificaArchivio) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(VerificaArchivio) {
     Prova p;
     p.impostazioni.setValue("VerificaArchivio/Archivio",
                             QFileInfo(__FILE__).dir().filePath("../../esempi/ArchivioSintetico.txt"));

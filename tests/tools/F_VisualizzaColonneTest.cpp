@@ -14,6 +14,7 @@
 #include "CollegaStrumenti.h"
 #include "F_VisualizzaColonne.h"
 #include "Formato.h"
+#include "Screenshot.h"
 
 namespace {
 
@@ -123,6 +124,9 @@ TEST(F_VisualizzaColonne, WheelAndKeysMoveThePageAndTheLineSaysWhere) {
     Rotella(f, -60);
     EXPECT_EQ(f.Slider1()->value(), 1 + 2 * passo);
     EXPECT_EQ(f.LabPosizione()->text(), QString("colonna %1 di ").arg(1 + 2 * passo) + mille);
+    Rotella(f, 120);  // one notch up
+    EXPECT_EQ(f.Slider1()->value(), 1 + passo);
+    Rotella(f, -120);
     QTest::keyClick(f.ListView1(), Qt::Key_PageDown);
     EXPECT_EQ(f.Slider1()->value(), 1 + 2 * passo + F_VisualizzaColonne::kRighe);
     QTest::keyClick(f.ListView1(), Qt::Key_End);
@@ -178,12 +182,9 @@ TEST(CollegaStrumenti, VisualizzaColonneOpensTheViewerModally) {
     EXPECT_EQ(righe, DaA(1, 3));
 }
 
-// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// Not a check: with --screenshot (scripts/screenshot-strumenti.sh)
 // it saves a picture of the viewer paged to column 100 of 1000.
-TEST(Screenshot, VisualizzaColonne) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
-    QDir().mkpath(cartella);
+SCREENSHOT(VisualizzaColonne) {
     Banco b;
     ImpostaColonne(b.c, 1000);
     F_VisualizzaColonne f(b.c);
