@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <sstream>
 
+#include "ColonnaDiProva.h"
 #include "Comandi.h"
 #include "FileColonne.h"
 #include "Formato.h"
@@ -27,12 +28,7 @@ protected:
     std::ostringstream out_, err_;
 };
 
-Colonna Col(std::initializer_list<int> numeri) {
-    Colonna c;
-    int pos = 1;
-    for (int n : numeri) c[pos++] = uint8_t(n);
-    return c;
-}
+using test::Col;
 
 // Every 6-number column of 1..n, written out by hand-rolled loops.
 std::vector<Colonna> Integrale(int n) {

@@ -37,6 +37,7 @@ namespace {
 
 using combi::Colonna;
 
+using combi::test::Col;
 using combi::test::ColonneCasuali;
 
 using combi::test::Registro;
@@ -57,12 +58,6 @@ std::vector<Colonna> Tenute(const CombiFiltroA& c) {
     return v;
 }
 
-Colonna Col(std::initializer_list<int> numeri) {
-    Colonna c;
-    int p = 1;
-    for (int n : numeri) c[p++] = static_cast<uint8_t>(n);
-    return c;
-}
 
 // Every column of `classe` numbers out of 1..`numeri`, in lexicographic order.
 std::vector<Colonna> Integrale(int numeri, int classe) {

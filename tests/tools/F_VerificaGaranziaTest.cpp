@@ -36,6 +36,8 @@
 #include <functional>
 
 #include "../control/Banco.h"
+#include "Screenshot.h"
+#include "../engine/ColonnaDiProva.h"
 #include "F_VerificaGaranzia.h"
 #include "F_VisualizzaColonne.h"
 #include "FileColonne.h"
@@ -45,13 +47,7 @@
 namespace {
 
 using combi::Colonna;
-
-Colonna Col(std::initializer_list<int> numeri) {
-    Colonna c;
-    int p = 1;
-    for (int n : numeri) c[p++] = static_cast<uint8_t>(n);
-    return c;
-}
+using combi::test::Col;
 
 // The 28 columns of 1..8 in class 6, in lexicographic order: the two numbers
 // left out, (a, b) with a < b, taken from the last pair backwards.
@@ -337,11 +333,9 @@ TEST(F_VerificaGaranzia, AnnullaStopsALargeRun) {
     }
 }
 
-// Not a check: with CF_CARTELLA_SCREENSHOT set (scripts/screenshot-strumenti.sh)
+// Not a check: with --screenshot (scripts/screenshot-strumenti.sh)
 // it saves a picture of the window after the table and the holes.
-TEST(Screenshot, VerificaGaranzia) {
-    const QString cartella = qEnvironmentVariable("CF_CARTELLA_SCREENSHOT");
-    if (cartella.isEmpty()) GTEST_SKIP() << "CF_CARTELLA_SCREENSHOT non impostata";
+SCREENSHOT(VerificaGaranzia) {
     BancoGaranzia g({kA, kB}, 3);
     F_VerificaGaranzia f(g.b.c, g.b.dialoghi);
     f.show();
