@@ -1,7 +1,6 @@
 // combifiltro-cli end to end. Running out of memory (exit code 1, "Memoria
 // insufficiente") cannot be brought about from a test; its exit code is not
 // checked here.
-#include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
 #include <unistd.h>
@@ -12,7 +11,7 @@
 #include <sstream>
 
 #include "../engine/ColonnaDiProva.h"
-#include "Comandi.h"
+#include "ProvaCli.h"
 #include "Terminale.h"
 #include "DecodificaCondizioni.h"
 #include "FileBinario.h"
@@ -26,16 +25,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class CliTest : public test::TestConCartella {
+class CliTest : public test::ProvaCli {
 protected:
-    CliTest() : TestConCartella("cf_cli_") {}
-    std::string P(const std::string& nome) const { return Percorso(nome); }
-
-    int Esegui(const cli::Parole& parole) {
-        out_.str(""), err_.str("");
-        return cli::Esegui(parole, out_, err_);
-    }
-
+    CliTest() : ProvaCli("cf_cli_") {}
     // A system with every condition type, a nested link group and two panels.
     void ScriviSistemaCompleto(const std::string& percorso, int riduzione) {
         TestiGriglia g;
@@ -72,7 +64,6 @@ protected:
         ScriviFileSistema(percorso, s);
     }
 
-    std::ostringstream out_, err_;
 };
 
 std::vector<uint8_t> Byte(const std::string& percorso) { return LeggiFileBinario(percorso, 1u << 30); }

@@ -1,4 +1,3 @@
-#include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -6,7 +5,7 @@
 #include <sstream>
 
 #include "ColonnaDiProva.h"
-#include "Comandi.h"
+#include "ProvaCli.h"
 #include "FileColonne.h"
 #include "Formato.h"
 
@@ -15,17 +14,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class GaranziaCliTest : public test::TestConCartella {
+class GaranziaCliTest : public test::ProvaCli {
 protected:
-    GaranziaCliTest() : TestConCartella("cf_cli_gar_") {}
-    std::string P(const std::string& nome) const { return Percorso(nome); }
-
-    int Esegui(const cli::Parole& parole) {
-        out_.str(""), err_.str("");
-        return cli::Esegui(parole, out_, err_);
-    }
-
-    std::ostringstream out_, err_;
+    GaranziaCliTest() : ProvaCli("cf_cli_gar_") {}
 };
 
 using test::Col;

@@ -1,5 +1,4 @@
 #include "../engine/ColonnaDiProva.h"
-#include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
 #include <unistd.h>
@@ -8,7 +7,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "Comandi.h"
+#include "ProvaCli.h"
 #include "FileBinario.h"
 #include "FileColonne.h"
 
@@ -17,17 +16,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class RiduciSpoglioTest : public test::TestConCartella {
+class RiduciSpoglioTest : public test::ProvaCli {
 protected:
-    RiduciSpoglioTest() : TestConCartella("cf_cli_rid_") {}
-    std::string P(const std::string& nome) const { return Percorso(nome); }
-
-    int Esegui(const cli::Parole& parole) {
-        out_.str(""), err_.str("");
-        return cli::Esegui(parole, out_, err_);
-    }
-
-    std::ostringstream out_, err_;
+    RiduciSpoglioTest() : ProvaCli("cf_cli_rid_") {}
 };
 
 using test::Col;

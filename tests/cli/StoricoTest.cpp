@@ -1,25 +1,19 @@
-#include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <sstream>
 
 #include "ArchivioEstrazioni.h"
-#include "Comandi.h"
+#include "ProvaCli.h"
 #include "FileColonne.h"
 #include "Spoglio.h"
 
 namespace combi {
 namespace {
 
-class StoricoTest : public test::TestConCartella {
+class StoricoTest : public test::ProvaCli {
 protected:
-    StoricoTest() : TestConCartella("cf_storico_") {}
-    int Esegui(const cli::Parole& parole) {
-        out_.str(""), err_.str("");
-        return cli::Esegui(parole, out_, err_);
-    }
-    std::ostringstream out_, err_;
+    StoricoTest() : ProvaCli("cf_storico_") {}
 };
 
 const std::string kArchivioSintetico = std::string(CF_CARTELLA_SORGENTI) + "/esempi/ArchivioSintetico.txt";
