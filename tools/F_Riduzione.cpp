@@ -23,6 +23,7 @@
 #include <cmath>
 
 #include "ColonneInFile.h"
+#include "CampoTesto.h"
 #include "CombiFiltroA.h"
 #include "Errore.h"
 #include "Formato.h"
@@ -110,7 +111,7 @@ F_Riduzione::F_Riduzione(CombiFiltroA& controllo, ServizioDialoghi& dialoghi, QW
 void F_Riduzione::CostruisciFinestra() {
     auto* colonna = new QVBoxLayout(this);
     auto* modulo = new QFormLayout;
-    labFile_ = CreaEtichetta("labFile");
+    labFile_ = CreaCampoTesto(this, "labFile");
     command1_ = new QPushButton("...", this);
     command1_->setObjectName("Command1");
     command1_->setAutoDefault(false);
@@ -118,13 +119,13 @@ void F_Riduzione::CostruisciFinestra() {
     rigaFile->addWidget(labFile_, 1);
     rigaFile->addWidget(command1_);
     modulo->addRow("File colonne", rigaFile);
-    labClasse_ = CreaEtichetta("LabClasse");
+    labClasse_ = CreaCampoTesto(this, "LabClasse");
     modulo->addRow("Classe", labClasse_);
-    labColonne_ = CreaEtichetta("LabColonne");
+    labColonne_ = CreaCampoTesto(this, "LabColonne");
     modulo->addRow("Colonne", labColonne_);
-    labColonneRid_ = CreaEtichetta("LabColonneRid");
+    labColonneRid_ = CreaCampoTesto(this, "LabColonneRid");
     modulo->addRow("Colonne ridotte", labColonneRid_);
-    labInfo_ = CreaEtichetta("LabInfo");
+    labInfo_ = CreaCampoTesto(this, "LabInfo");
     labInfo_->setWordWrap(true);
     modulo->addRow("Riduzione", labInfo_);
     colonna->addLayout(modulo);
@@ -191,15 +192,6 @@ void F_Riduzione::CreaOttimizzazione(QVBoxLayout* colonna) {
     grafico_->setMinimumHeight(170);
     colonna->addWidget(grafico_);
     AzzeraGrafico();
-}
-
-QLabel* F_Riduzione::CreaEtichetta(const char* nome) {
-    auto* etichetta = new QLabel(this);
-    etichetta->setObjectName(nome);
-    etichetta->setFrameShape(QFrame::StyledPanel);
-    etichetta->setMinimumHeight(etichetta->fontMetrics().height() + 6);
-    etichetta->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return etichetta;
 }
 
 std::unique_ptr<combi::OsservatoreOttimizzazione> F_Riduzione::Osservatore() {

@@ -77,7 +77,6 @@ public:
 private:
     void CostruisciFinestra();
     void CreaOttimizzazione(class QVBoxLayout* colonna);
-    QLabel* CreaEtichetta(const char* nome);
     void GaranziaCambiata();
     void OttimizzaCambiato();
     void AbilitaScelte(bool abilita);

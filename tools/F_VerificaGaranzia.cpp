@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <array>
 
+#include "CampoTesto.h"
 #include "CombiFiltroA.h"
 #include "Errore.h"
 #include "F_VisualizzaColonne.h"
@@ -89,15 +90,15 @@ F_VerificaGaranzia::F_VerificaGaranzia(CombiFiltroA& controllo, ServizioDialoghi
 void F_VerificaGaranzia::CostruisciFinestra() {
     auto* colonna = new QVBoxLayout(this);
     auto* modulo = new QFormLayout;
-    labColonne_ = CreaEtichetta("LabColonne");
+    labColonne_ = CreaCampoTesto(this, "LabColonne");
     modulo->addRow("Colonne tenute", labColonne_);
-    labNumeri_ = CreaEtichetta("LabNumeri");
+    labNumeri_ = CreaCampoTesto(this, "LabNumeri");
     labNumeri_->setWordWrap(true);
     modulo->addRow("Numeri scelti", labNumeri_);
     colonna->addLayout(modulo);
     CreaTabella(colonna);
     CreaBuchi(colonna);
-    labInfo_ = CreaEtichetta("LabInfo");
+    labInfo_ = CreaCampoTesto(this, "LabInfo");
     colonna->addWidget(labInfo_);
     panPerc_ = new QProgressBar(this);
     panPerc_->setObjectName("PanPerc");
@@ -106,15 +107,6 @@ void F_VerificaGaranzia::CostruisciFinestra() {
     colonna->addWidget(panPerc_);
     CreaPulsanti(colonna);
     setMinimumWidth(520);
-}
-
-QLabel* F_VerificaGaranzia::CreaEtichetta(const char* nome) {
-    auto* etichetta = new QLabel(this);
-    etichetta->setObjectName(nome);
-    etichetta->setFrameShape(QFrame::StyledPanel);
-    etichetta->setMinimumHeight(etichetta->fontMetrics().height() + 6);
-    etichetta->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return etichetta;
 }
 
 void F_VerificaGaranzia::CreaTabella(QVBoxLayout* colonna) {
@@ -176,7 +168,7 @@ void F_VerificaGaranzia::CreaBuchi(QVBoxLayout* colonna) {
     optFile_ = new QRadioButton("File colonne", gruppo);
     optFile_->setObjectName("OptFile");
     rigaFile->addWidget(optFile_);
-    labFile_ = CreaEtichetta("LabFile");
+    labFile_ = CreaCampoTesto(this, "LabFile");
     rigaFile->addWidget(labFile_, 1);
     cmdFile_ = new QPushButton("...", gruppo);
     cmdFile_->setObjectName("CmdFile");
@@ -185,7 +177,7 @@ void F_VerificaGaranzia::CreaBuchi(QVBoxLayout* colonna) {
     interno->addLayout(rigaFile);
 
     auto* rigaEsito = new QHBoxLayout;
-    labBuchi_ = CreaEtichetta("LabBuchi");
+    labBuchi_ = CreaCampoTesto(this, "LabBuchi");
     labBuchi_->setMinimumWidth(140);
     rigaEsito->addWidget(labBuchi_);
     rigaEsito->addStretch(1);

@@ -67,7 +67,6 @@ private:
     void CreaTabella(class QVBoxLayout* colonna);
     void CreaBuchi(class QVBoxLayout* colonna);
     void CreaPulsanti(class QVBoxLayout* colonna);
-    QLabel* CreaEtichetta(const char* nome);
     void LeggiControllo();
     bool ControllaColonne();
     bool ControllaNumeri();

@@ -43,6 +43,20 @@ void ControllaGaranzia(const std::vector<Colonna>& tutte, const std::vector<Colo
         for (size_t b = a + 1; b < tenute.size(); ++b) ASSERT_LT(Comuni(tenute[a], tenute[b], classe), t);
 }
 
+// The index against the all-pairs loop on one set: the counts, the kept
+// columns and the events; the promise checked too where the set is small.
+void ConfrontaConRiferimento(const std::vector<Colonna>& v, int t, int classe, bool garanzia) {
+    EXPECT_EQ(riduzione::ContaCoperture(v, t), riduzione::ContaCopertureRiferimento(v, t));
+    Registro veloce, riferimento;
+    const RisultatoRiduzione a = RiduciColonne(v, t, veloce);
+    const RisultatoRiduzione b = RiduciColonneRiferimento(v, t, riferimento);
+    EXPECT_EQ(a.colonne, b.colonne);
+    EXPECT_EQ(veloce.eventi, riferimento.eventi);
+    EXPECT_FALSE(a.interrotto);
+    EXPECT_LT(a.colonne.size(), v.size());
+    if (garanzia) ControllaGaranzia(v, a.colonne, t, true, classe);
+}
+
 TEST(Riduzione, FastPathMatchesReferenceOnRandomSets) {
     struct Caso { uint32_t seme; size_t n; int t; int pool; };
     const Caso casi[] = {
@@ -52,18 +66,7 @@ TEST(Riduzione, FastPathMatchesReferenceOnRandomSets) {
     };
     for (const Caso& c : casi) {
         SCOPED_TRACE("seme " + std::to_string(c.seme) + " t=" + std::to_string(c.t));
-        const std::vector<Colonna> v = ColonneCasuali(c.seme, c.n, c.pool);
-        EXPECT_EQ(riduzione::ContaCoperture(v, c.t), riduzione::ContaCopertureRiferimento(v, c.t));
-        Registro veloce, riferimento;
-        const RisultatoRiduzione a = RiduciColonne(v, c.t, veloce);
-        const RisultatoRiduzione b = RiduciColonneRiferimento(v, c.t, riferimento);
-        EXPECT_EQ(a.colonne, b.colonne);
-        EXPECT_EQ(veloce.eventi, riferimento.eventi);
-        EXPECT_FALSE(a.interrotto);
-        EXPECT_LT(a.colonne.size(), v.size());
-        if (c.n <= 1500) {
-            ControllaGaranzia(v, a.colonne, c.t, true);
-        }
+        ConfrontaConRiferimento(ColonneCasuali(c.seme, c.n, c.pool), c.t, 6, c.n <= 1500);
     }
 }
 
@@ -81,14 +84,7 @@ TEST(Riduzione, EveryClassFastPathMatchesReference) {
         SCOPED_TRACE("classe " + std::to_string(c.classe) + " t=" + std::to_string(c.t));
         const std::vector<Colonna> v = ColonneCasuali(uint32_t(c.classe * 100 + c.t), c.n, c.pool, c.classe);
         ASSERT_EQ(ClasseColonne(v), c.classe);
-        EXPECT_EQ(riduzione::ContaCoperture(v, c.t), riduzione::ContaCopertureRiferimento(v, c.t));
-        Registro veloce, riferimento;
-        const RisultatoRiduzione a = RiduciColonne(v, c.t, veloce);
-        const RisultatoRiduzione b = RiduciColonneRiferimento(v, c.t, riferimento);
-        EXPECT_EQ(a.colonne, b.colonne);
-        EXPECT_EQ(veloce.eventi, riferimento.eventi);
-        EXPECT_LT(a.colonne.size(), v.size());
-        ControllaGaranzia(v, a.colonne, c.t, true, c.classe);
+        ConfrontaConRiferimento(v, c.t, c.classe, true);
     }
 }
 
