@@ -30,7 +30,7 @@ void RicercaLocale::Inizia(const std::vector<uint32_t>& iniziali) {
         if (Perdita(tenute_[p]) == 0) Togli(tenute_[p]);
     migliore_ = tenute_;
     std::sort(migliore_.begin(), migliore_.end());
-    passiStadio_ = std::max<uint64_t>(100, uint64_t(tenute_.size()) * uint64_t(v_.Classe()) * 10);
+    passiStadio_ = std::max<uint64_t>(100, uint64_t(tenute_.size()) * uint64_t(v_.Classe()) * kPassiPerNumero);
 }
 
 // splitmix64: the same sequence on every platform for the same seed.

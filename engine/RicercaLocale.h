@@ -66,6 +66,10 @@ private:
 
     static constexpr uint32_t kCampioniTaratura = 200;   // worsening changes measured for the starting temperature
     static constexpr double kRaffreddamento = 0.99;      // per stage
+    // A stage is this many steps per kept number: long enough to try each kept
+    // column's changes a few times, short enough that a set of hundreds of
+    // columns cools within seconds rather than the whole budget.
+    static constexpr uint64_t kPassiPerNumero = 3;
     static constexpr uint32_t kStadiSenzaProgresso = 100; // stages without a better cost before the restart
     static constexpr double kRiscaldamento = 0.3;        // the restart's temperature, a fraction of the first
     static constexpr size_t kRicambi = 4;                // the restart drops one of this many least useful columns
