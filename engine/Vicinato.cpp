@@ -4,14 +4,14 @@
 
 namespace combi::riduzione {
 
-Vicinato::Vicinato(const std::vector<Colonna>& colonne, int classe, int punti)
+Vicinato::Vicinato(const std::vector<Colonna>& colonne, int classe, int punti, uint64_t massimiVicini)
     : indice_(colonne, classe, punti), classe_(classe), punti_(punti), maschere_(colonne.size(), {0, 0}) {
     for (size_t i = 0; i < colonne.size(); ++i)
         for (int pos = 1; pos <= classe; ++pos) {
             const int n = colonne[i][pos];
             maschere_[i][size_t(n >> 6)] |= uint64_t(1) << (n & 63);
         }
-    CostruisciElenchi();
+    CostruisciElenchi(massimiVicini);
     CostruisciTabella();
 }
 
@@ -21,11 +21,11 @@ int Vicinato::Comuni(uint32_t a, uint32_t b) const {
 
 // The index already knows how many columns each one covers: the flat lists
 // are sized exactly before they are filled.
-void Vicinato::CostruisciElenchi() {
+void Vicinato::CostruisciElenchi(uint64_t massimiVicini) {
     const std::vector<int32_t>& conte = indice_.Conte();
     uint64_t totale = 0;
     for (int32_t c : conte) totale += uint64_t(c) + 1;
-    if (totale > kMassimiVicini) return;
+    if (totale > massimiVicini) return;
     inizio_.assign(maschere_.size() + 1, 0);
     membri_.reserve(totale);
     Timbri timbri;

@@ -13,6 +13,7 @@
 // search can change one number of a kept column and know whether the result
 // is an input column.
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <vector>
@@ -32,8 +33,9 @@ struct Timbri {
 
 class Vicinato {
 public:
-    // `colonne` checked, of class `classe`; t = `punti`.
-    Vicinato(const std::vector<Colonna>& colonne, int classe, int punti);
+    // `colonne` checked, of class `classe`; t = `punti`. The lists are stored
+    // flat when they hold at most `massimiVicini` entries in all.
+    Vicinato(const std::vector<Colonna>& colonne, int classe, int punti, uint64_t massimiVicini = kMassimiVicini);
 
     uint32_t Quante() const { return uint32_t(maschere_.size()); }
     int Classe() const { return classe_; }
@@ -47,11 +49,11 @@ public:
     template <typename F>
     void PerVicini(uint32_t i, Timbri& timbri, F&& f) const;
 
-private:
     static constexpr uint64_t kMassimiVicini = 400'000'000;  // 1.6 GB: every column of 1..20 at 3 points fits
 
+private:
     static uint64_t Hash(const Maschera& m);
-    void CostruisciElenchi();
+    void CostruisciElenchi(uint64_t massimiVicini);
     void CostruisciTabella();
 
     IndiceCoperture indice_;
