@@ -12,12 +12,14 @@ RicercaLocale::RicercaLocale(const std::vector<Colonna>& colonne, int classe, in
     : RicercaLocale(std::make_shared<const Vicinato>(colonne, classe, punti), iniziali, seme) {}
 
 RicercaLocale::RicercaLocale(std::shared_ptr<const Vicinato> vicinato, const std::vector<uint32_t>& iniziali,
-                             uint64_t seme)
+                             uint64_t seme, bool pesata)
     : vicinato_(std::move(vicinato)),
       v_(*vicinato_),
       coperture_(v_.Quante(), 0),
       posTenuta_(v_.Quante(), -1),
       posScoperta_(v_.Quante(), -1),
+      pesata_(pesata),
+      peso_(pesata ? v_.Quante() : 0, 1),
       stato_(seme * 0x9E3779B97F4A7C15ull + 0x2545F4914F6CDD1Dull) {
     Inizia(iniziali);
 }
@@ -166,6 +168,55 @@ int64_t RicercaLocale::Variazione(uint32_t tolta, uint32_t aggiunta) {
     return d;
 }
 
+// Every one-number change of `tolta` towards u that is an input column, into
+// candidate_; the input columns covering u nearest to `tolta` when there is none.
+void RicercaLocale::CambiVerso(uint32_t u, uint32_t tolta) {
+    const Maschera& a = v_.Numeri(tolta);
+    const Maschera& b = v_.Numeri(u);
+    const Maschera fuori = {a[0] & ~b[0], a[1] & ~b[1]};
+    const Maschera mancanti = {b[0] & ~a[0], b[1] & ~a[1]};
+    const uint64_t quanteFuori = uint64_t(std::popcount(fuori[0]) + std::popcount(fuori[1]));
+    const uint64_t quanteMancanti = uint64_t(std::popcount(mancanti[0]) + std::popcount(mancanti[1]));
+    candidate_.clear();
+    for (uint64_t i = 0; i < quanteFuori; ++i)
+        for (uint64_t j = 0; j < quanteMancanti; ++j) {
+            const int x = BitNumero(fuori, i);
+            const int y = BitNumero(mancanti, j);
+            Maschera m = a;
+            m[size_t(x >> 6)] &= ~(uint64_t(1) << (x & 63));
+            m[size_t(y >> 6)] |= uint64_t(1) << (y & 63);
+            const int64_t c = v_.Cerca(m);
+            if (c >= 0) candidate_.push_back(uint32_t(c));
+        }
+    if (candidate_.empty()) SostitutaVicina(u, tolta);  // leaves its choices in candidate_
+}
+
+// The weighted variant's newcomer: the candidate leaving the least uncovered
+// weight, ties at random; `variazione` is that weight's change.
+uint32_t RicercaLocale::MigliorSostituta(uint32_t u, uint32_t tolta, int64_t& variazione) {
+    soloDaTolta_.clear();
+    v_.PerVicini(tolta, timbri_, [&](uint32_t i) {
+        if (coperture_[i] == 1) soloDaTolta_.push_back(i);
+    });
+    CambiVerso(u, tolta);
+    uint32_t scelta = candidate_[0];
+    variazione = INT64_MAX;
+    uint64_t pari = 0;
+    for (uint32_t c : candidate_) {
+        int64_t d = 0;
+        for (uint32_t i : soloDaTolta_)
+            if (!v_.Copre(c, i)) d += peso_[i];
+        for (uint32_t i : scoperte_)
+            if (v_.Copre(c, i)) d -= peso_[i];
+        if (d < variazione) {
+            scelta = c, variazione = d, pari = 1;
+        } else if (d == variazione && Caso() % ++pari == 0) {
+            scelta = c;
+        }
+    }
+    return scelta;
+}
+
 bool RicercaLocale::Accetta(int64_t variazione) {
     if (variazione <= 0) return true;
     if (peggioramentiMisurati_ < kCampioniTaratura) {
@@ -228,10 +279,14 @@ bool RicercaLocale::Passo() {
     }
     const uint32_t u = scoperte_[Caso() % scoperte_.size()];
     const uint32_t tolta = PiuVicinaTenuta(u);
-    const uint32_t aggiunta = Sostituta(u, tolta);
-    if (Accetta(Variazione(tolta, aggiunta))) {
+    int64_t variazione = 0;
+    const uint32_t aggiunta = pesata_ ? MigliorSostituta(u, tolta, variazione) : Sostituta(u, tolta);
+    if (!pesata_) variazione = Variazione(tolta, aggiunta);
+    if (Accetta(variazione)) {
         Togli(tolta);
         Aggiungi(aggiunta);
+    } else if (pesata_) {
+        for (uint32_t i : scoperte_) ++peso_[i];
     }
     Raffredda();
     return false;

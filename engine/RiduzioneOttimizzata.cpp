@@ -20,9 +20,10 @@ namespace {
 
 using Orologio = std::chrono::steady_clock;
 
-// Two searches with different seeds: the two cores of a common machine, and a
-// number fixed here rather than read from the machine, so that a seed and a
-// step limit give the same columns everywhere.
+// Two searches with different seeds, the plain one and the weighted one
+// (RicercaLocale.h): the two cores of a common machine, and a number fixed
+// here rather than read from the machine, so that a seed and a step limit
+// give the same columns everywhere.
 constexpr int kRicerche = 2;
 
 // The main thread looks at the searches every few milliseconds: progress,
@@ -98,7 +99,7 @@ RisultatoRiduzione RiduciColonneOttimizzate(const std::vector<Colonna>& colonne,
     for (int r = 0; r < kRicerche; ++r) {
         lavori.push_back(std::make_unique<Lavoro>());
         lavori.back()->ricerca =
-            std::make_unique<riduzione::RicercaLocale>(vicinato, iniziali, opzioni.seme * kRicerche + uint64_t(r));
+            std::make_unique<riduzione::RicercaLocale>(vicinato, iniziali, opzioni.seme * kRicerche + uint64_t(r), r == 1);
         lavori.back()->migliore = lavori.back()->ricerca->Migliore().size();
     }
     size_t migliore = lavori[0]->migliore;
