@@ -3,41 +3,36 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <tuple>
 
 namespace combi::riduzione {
 
 RicercaLocale::RicercaLocale(const std::vector<Colonna>& colonne, int classe, int punti,
                              const std::vector<uint32_t>& iniziali, uint64_t seme)
-    : indice_(colonne, classe, punti),
-      punti_(punti),
-      maschere_(colonne.size(), {0, 0}),
-      coperture_(colonne.size(), 0),
-      sommaCoprenti_(colonne.size(), 0),
-      peso_(colonne.size(), 1),
-      perdita_(colonne.size(), 0),
-      posTenuta_(colonne.size(), -1),
-      posScoperta_(colonne.size(), -1),
-      timbro_(colonne.size(), 0),
+    : RicercaLocale(std::make_shared<const Vicinato>(colonne, classe, punti), iniziali, seme) {}
+
+RicercaLocale::RicercaLocale(std::shared_ptr<const Vicinato> vicinato, const std::vector<uint32_t>& iniziali,
+                             uint64_t seme, bool pesata)
+    : vicinato_(std::move(vicinato)),
+      v_(*vicinato_),
+      coperture_(v_.Quante(), 0),
+      posTenuta_(v_.Quante(), -1),
+      posScoperta_(v_.Quante(), -1),
+      pesata_(pesata),
+      peso_(pesata ? v_.Quante() : 0, 1),
       stato_(seme * 0x9E3779B97F4A7C15ull + 0x2545F4914F6CDD1Dull) {
-    for (size_t i = 0; i < colonne.size(); ++i)
-        for (int pos = 1; pos <= classe; ++pos) {
-            const int n = colonne[i][pos];
-            maschere_[i][size_t(n >> 6)] |= uint64_t(1) << (n & 63);
-        }
-    for (uint32_t i = 0; i < uint32_t(colonne.size()); ++i) Scopri(i);
+    Inizia(iniziali);
+}
+
+void RicercaLocale::Inizia(const std::vector<uint32_t>& iniziali) {
+    for (uint32_t i = 0; i < v_.Quante(); ++i) Scopri(i);
     for (uint32_t c : iniziali) Aggiungi(c);
     // Redundant columns first: every column they cover is covered twice.
-    for (bool tolta = true; tolta;) {
-        tolta = false;
-        for (size_t p = 0; p < tenute_.size(); ++p)
-            if (perdita_[tenute_[p]] == 0) {
-                Togli(tenute_[p]);
-                tolta = true;
-                break;
-            }
-    }
+    for (size_t p = tenute_.size(); p-- > 0;)
+        if (Perdita(tenute_[p]) == 0) Togli(tenute_[p]);
     migliore_ = tenute_;
     std::sort(migliore_.begin(), migliore_.end());
+    passiStadio_ = std::max<uint64_t>(100, uint64_t(tenute_.size()) * uint64_t(v_.Classe()) * kPassiPerNumero);
 }
 
 // splitmix64: the same sequence on every platform for the same seed.
@@ -46,19 +41,6 @@ uint64_t RicercaLocale::Caso() {
     z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ull;
     z = (z ^ (z >> 27)) * 0x94D049BB133111EBull;
     return z ^ (z >> 31);
-}
-
-template <typename F>
-void RicercaLocale::PerVicini(uint32_t i, F&& f) {
-    if (++giro_ == 0) {
-        std::fill(timbro_.begin(), timbro_.end(), 0);
-        giro_ = 1;
-    }
-    indice_.PerVicini(i, [&](uint32_t j) {
-        if (timbro_[j] == giro_) return;
-        timbro_[j] = giro_;
-        f(j);
-    });
 }
 
 void RicercaLocale::Scopri(uint32_t i) {
@@ -78,16 +60,8 @@ void RicercaLocale::Copri(uint32_t i) {
 void RicercaLocale::Aggiungi(uint32_t c) {
     posTenuta_[c] = int32_t(tenute_.size());
     tenute_.push_back(c);
-    perdita_[c] = 0;
-    PerVicini(c, [&](uint32_t i) {
-        if (coperture_[i] == 0) {
-            perdita_[c] += peso_[i];
-            Copri(i);
-        } else if (coperture_[i] == 1) {
-            perdita_[sommaCoprenti_[i]] -= peso_[i];  // its only coverer shares it now
-        }
-        ++coperture_[i];
-        sommaCoprenti_[i] += c;
+    v_.PerVicini(c, timbri_, [&](uint32_t i) {
+        if (coperture_[i]++ == 0) Copri(i);
     });
 }
 
@@ -98,33 +72,33 @@ void RicercaLocale::Togli(uint32_t c) {
     posTenuta_[ultima] = p;
     tenute_.pop_back();
     posTenuta_[c] = -1;
-    PerVicini(c, [&](uint32_t i) {
-        --coperture_[i];
-        sommaCoprenti_[i] -= c;
-        if (coperture_[i] == 0)
-            Scopri(i);
-        else if (coperture_[i] == 1)
-            perdita_[sommaCoprenti_[i]] += peso_[i];  // left to one coverer
+    v_.PerVicini(c, timbri_, [&](uint32_t i) {
+        if (--coperture_[i] == 0) Scopri(i);
     });
 }
 
-// The kept column whose removal uncovers the least weight, ties at random.
-uint32_t RicercaLocale::MenoPerdita() {
+// What removing kept column k would uncover: the columns only k covers.
+int64_t RicercaLocale::Perdita(uint32_t k) {
+    int64_t perdita = 0;
+    v_.PerVicini(k, timbri_, [&](uint32_t i) { perdita += coperture_[i] == 1; });
+    return perdita;
+}
+
+// A kept column whose removal uncovers least, ties at random: the search
+// then starts the smaller size as close to covering as one removal allows.
+void RicercaLocale::TogliMenoUtile() {
     uint32_t scelta = tenute_[0];
+    int64_t minima = INT64_MAX;
     uint64_t pari = 0;
     for (uint32_t k : tenute_) {
-        if (perdita_[k] < perdita_[scelta]) {
-            scelta = k;
-            pari = 1;
-        } else if (perdita_[k] == perdita_[scelta] && Caso() % ++pari == 0) {
+        const int64_t p = Perdita(k);
+        if (p < minima) {
+            scelta = k, minima = p, pari = 1;
+        } else if (p == minima && Caso() % ++pari == 0) {
             scelta = k;
         }
     }
-    return scelta;
-}
-
-int RicercaLocale::Comuni(uint32_t a, uint32_t b) const {
-    return std::popcount(maschere_[a][0] & maschere_[b][0]) + std::popcount(maschere_[a][1] & maschere_[b][1]);
+    Togli(scelta);
 }
 
 uint32_t RicercaLocale::PiuVicinaTenuta(uint32_t u) {
@@ -132,45 +106,108 @@ uint32_t RicercaLocale::PiuVicinaTenuta(uint32_t u) {
     int vicinanza = -1;
     uint64_t pari = 0;
     for (uint32_t k : tenute_) {
-        const int v = Comuni(k, u);
-        if (v > vicinanza) {
-            scelta = k, vicinanza = v, pari = 1;
-        } else if (v == vicinanza && Caso() % ++pari == 0) {
+        const int c = v_.Comuni(k, u);
+        if (c > vicinanza) {
+            scelta = k, vicinanza = c, pari = 1;
+        } else if (c == vicinanza && Caso() % ++pari == 0) {
             scelta = k;
         }
     }
     return scelta;
 }
 
-// Among the columns covering u nearest to `tolta` (a sample of them), the one
-// whose exchange with `tolta` leaves the least uncovered weight: what only
-// `tolta` covers and the newcomer does not, less the uncovered it covers.
+// The i-th set bit of m (i from 0).
+static int BitNumero(const Maschera& m, uint64_t i) {
+    const uint64_t basse = uint64_t(std::popcount(m[0]));
+    const size_t parola = i < basse ? 0 : 1;
+    uint64_t x = m[parola];
+    for (uint64_t salta = parola == 0 ? i : i - basse; salta > 0; --salta) x &= x - 1;
+    return int(parola * 64) + std::countr_zero(x);
+}
+
+// `tolta` with one of its numbers outside u replaced by one of u's it lacks:
+// one number nearer to u, so it covers u. Any input column covering u
+// nearest to `tolta` when no such change is an input column.
+uint32_t RicercaLocale::Sostituta(uint32_t u, uint32_t tolta) {
+    const Maschera& a = v_.Numeri(tolta);
+    const Maschera& b = v_.Numeri(u);
+    const Maschera fuori = {a[0] & ~b[0], a[1] & ~b[1]};
+    const Maschera mancanti = {b[0] & ~a[0], b[1] & ~a[1]};
+    const uint64_t quanteFuori = uint64_t(std::popcount(fuori[0]) + std::popcount(fuori[1]));
+    const uint64_t quanteMancanti = uint64_t(std::popcount(mancanti[0]) + std::popcount(mancanti[1]));
+    for (int prova = 0; prova < kProveSostituta; ++prova) {
+        const int x = BitNumero(fuori, Caso() % quanteFuori);
+        const int y = BitNumero(mancanti, Caso() % quanteMancanti);
+        Maschera m = a;
+        m[size_t(x >> 6)] &= ~(uint64_t(1) << (x & 63));
+        m[size_t(y >> 6)] |= uint64_t(1) << (y & 63);
+        const int64_t c = v_.Cerca(m);
+        if (c >= 0) return uint32_t(c);
+    }
+    return SostitutaVicina(u, tolta);
+}
+
+uint32_t RicercaLocale::SostitutaVicina(uint32_t u, uint32_t tolta) {
+    candidate_.clear();
+    int vicinanza = -1;
+    v_.PerVicini(u, timbri_, [&](uint32_t c) {
+        const int comuni = v_.Comuni(c, tolta);
+        if (comuni > vicinanza) vicinanza = comuni, candidate_.clear();
+        if (comuni == vicinanza) candidate_.push_back(c);
+    });
+    return candidate_[Caso() % candidate_.size()];  // u itself is among them
+}
+
+// The change in the number of uncovered columns if `aggiunta` takes the place
+// of `tolta`: those only `tolta` covers and `aggiunta` does not are lost,
+// those nobody covers and `aggiunta` does are gained.
+int64_t RicercaLocale::Variazione(uint32_t tolta, uint32_t aggiunta) {
+    int64_t d = 0;
+    v_.PerVicini(tolta, timbri_, [&](uint32_t i) { d += coperture_[i] == 1 && !v_.Copre(aggiunta, i); });
+    v_.PerVicini(aggiunta, timbri_, [&](uint32_t i) { d -= coperture_[i] == 0; });
+    return d;
+}
+
+// Every one-number change of `tolta` towards u that is an input column, into
+// candidate_; the input columns covering u nearest to `tolta` when there is none.
+void RicercaLocale::CambiVerso(uint32_t u, uint32_t tolta) {
+    const Maschera& a = v_.Numeri(tolta);
+    const Maschera& b = v_.Numeri(u);
+    const Maschera fuori = {a[0] & ~b[0], a[1] & ~b[1]};
+    const Maschera mancanti = {b[0] & ~a[0], b[1] & ~a[1]};
+    const uint64_t quanteFuori = uint64_t(std::popcount(fuori[0]) + std::popcount(fuori[1]));
+    const uint64_t quanteMancanti = uint64_t(std::popcount(mancanti[0]) + std::popcount(mancanti[1]));
+    candidate_.clear();
+    for (uint64_t i = 0; i < quanteFuori; ++i)
+        for (uint64_t j = 0; j < quanteMancanti; ++j) {
+            const int x = BitNumero(fuori, i);
+            const int y = BitNumero(mancanti, j);
+            Maschera m = a;
+            m[size_t(x >> 6)] &= ~(uint64_t(1) << (x & 63));
+            m[size_t(y >> 6)] |= uint64_t(1) << (y & 63);
+            const int64_t c = v_.Cerca(m);
+            if (c >= 0) candidate_.push_back(uint32_t(c));
+        }
+    if (candidate_.empty()) SostitutaVicina(u, tolta);  // leaves its choices in candidate_
+}
+
+// The weighted variant's newcomer: the candidate leaving the least uncovered
+// weight, ties at random; `variazione` is that weight's change.
 uint32_t RicercaLocale::MigliorSostituta(uint32_t u, uint32_t tolta, int64_t& variazione) {
     soloDaTolta_.clear();
-    PerVicini(tolta, [&](uint32_t i) {
+    v_.PerVicini(tolta, timbri_, [&](uint32_t i) {
         if (coperture_[i] == 1) soloDaTolta_.push_back(i);
     });
-    vicini_.clear();
-    int vicinanza = -1;
-    PerVicini(u, [&](uint32_t c) {
-        if (posTenuta_[c] >= 0) return;
-        const int v = Comuni(c, tolta);
-        if (v > vicinanza) vicinanza = v, vicini_.clear();
-        if (v == vicinanza) vicini_.push_back(c);
-    });
-    if (vicini_.empty()) vicini_.push_back(u);  // u is not kept: it covers itself
-    const size_t provati = std::min(vicini_.size(), kCandidatiProvati);
-    uint32_t scelta = vicini_[0];
+    CambiVerso(u, tolta);
+    uint32_t scelta = candidate_[0];
     variazione = INT64_MAX;
     uint64_t pari = 0;
-    for (size_t p = 0; p < provati; ++p) {
-        std::swap(vicini_[p], vicini_[p + Caso() % (vicini_.size() - p)]);
-        const uint32_t c = vicini_[p];
+    for (uint32_t c : candidate_) {
         int64_t d = 0;
         for (uint32_t i : soloDaTolta_)
-            if (!Copre(c, i)) d += peso_[i];
+            if (!v_.Copre(c, i)) d += peso_[i];
         for (uint32_t i : scoperte_)
-            if (Copre(c, i)) d -= peso_[i];
+            if (v_.Copre(c, i)) d -= peso_[i];
         if (d < variazione) {
             scelta = c, variazione = d, pari = 1;
         } else if (d == variazione && Caso() % ++pari == 0) {
@@ -182,15 +219,49 @@ uint32_t RicercaLocale::MigliorSostituta(uint32_t u, uint32_t tolta, int64_t& va
 
 bool RicercaLocale::Accetta(int64_t variazione) {
     if (variazione <= 0) return true;
-    const double caso = double(Caso() >> 11) * 0x1.0p-53;
-    const bool accettata = caso < std::exp(-double(variazione) / temperatura_);
-    ++peggioriProposte_;
-    peggioriAccettate_ += accettata;
-    if (peggioriProposte_ == kPassiTaratura) {
-        temperatura_ *= peggioriAccettate_ < kQuotaPeggiori * kPassiTaratura ? 1.1 : 1 / 1.1;
-        peggioriProposte_ = peggioriAccettate_ = 0;
+    if (peggioramentiMisurati_ < kCampioniTaratura) {
+        // Measuring: every worsening change is taken; the temperature then
+        // makes the average one taken half the time.
+        sommaPeggioramenti_ += double(variazione);
+        if (++peggioramentiMisurati_ == kCampioniTaratura)
+            temperatura_ = temperaturaIniziale_ = sommaPeggioramenti_ / kCampioniTaratura / std::log(2.0);
+        return true;
     }
-    return accettata;
+    const double caso = double(Caso() >> 11) * 0x1.0p-53;
+    return caso < std::exp(-double(variazione) / temperatura_);
+}
+
+// Geometric cooling by stages. When the best cost at this size has not moved
+// for kStadiSenzaProgresso stages the search starts the size again from the
+// best covering set, less another column, at a fraction of the starting
+// temperature: the full one undoes what the descent to the smaller size built.
+void RicercaLocale::Raffredda() {
+    if (scoperte_.size() < minimoScoperte_) minimoScoperte_ = scoperte_.size(), stadiSenzaProgresso_ = 0;
+    if (++passoNelloStadio_ < passiStadio_) return;
+    passoNelloStadio_ = 0;
+    temperatura_ *= kRaffreddamento;
+    if (++stadiSenzaProgresso_ >= kStadiSenzaProgresso) {
+        temperatura_ = temperaturaIniziale_ * kRiscaldamento;
+        Ricomincia();
+        stadiSenzaProgresso_ = 0;
+        minimoScoperte_ = scoperte_.size();
+    }
+}
+
+// Back to the best covering set, less one column chosen at random among the
+// kRicambi whose removal uncovers least: another start for the same size.
+void RicercaLocale::Ricomincia() {
+    if (migliore_.size() <= 1) return;
+    while (!tenute_.empty()) Togli(tenute_.back());
+    for (uint32_t c : migliore_) Aggiungi(c);
+    struct Ricambio { int64_t perdita; uint64_t caso; uint32_t colonna; };  // `caso` breaks the ties
+    std::vector<Ricambio> ricambi;
+    for (uint32_t k : tenute_) ricambi.push_back({Perdita(k), Caso(), k});
+    const size_t scelte = std::min(ricambi.size(), kRicambi);
+    std::partial_sort(ricambi.begin(), ricambi.begin() + ptrdiff_t(scelte), ricambi.end(),
+                      [](const Ricambio& a, const Ricambio& b) { return std::tie(a.perdita, a.caso) < std::tie(b.perdita, b.caso); });
+    Togli(ricambi[Caso() % scelte].colonna);
+    minimoScoperte_ = scoperte_.size();
 }
 
 bool RicercaLocale::Passo() {
@@ -201,19 +272,23 @@ bool RicercaLocale::Passo() {
             migliore_ = tenute_;
             std::sort(migliore_.begin(), migliore_.end());
         }
-        if (tenute_.size() > 1) Togli(MenoPerdita());
+        if (tenute_.size() > 1) TogliMenoUtile();
+        minimoScoperte_ = scoperte_.size();
+        stadiSenzaProgresso_ = 0;
         return nuovo;
     }
     const uint32_t u = scoperte_[Caso() % scoperte_.size()];
     const uint32_t tolta = PiuVicinaTenuta(u);
     int64_t variazione = 0;
-    const uint32_t aggiunta = MigliorSostituta(u, tolta, variazione);
+    const uint32_t aggiunta = pesata_ ? MigliorSostituta(u, tolta, variazione) : Sostituta(u, tolta);
+    if (!pesata_) variazione = Variazione(tolta, aggiunta);
     if (Accetta(variazione)) {
         Togli(tolta);
         Aggiungi(aggiunta);
-    } else {
+    } else if (pesata_) {
         for (uint32_t i : scoperte_) ++peso_[i];
     }
+    Raffredda();
     return false;
 }
 

@@ -3,33 +3,40 @@
 // Not part of the public interface.
 //
 // A set cover where the elements and the candidates are the same columns and
-// a column covers another when they share at least t numbers (a symmetric
-// relation, so "the columns covering i" are "the columns i covers"; they are
-// walked through the subset index, never stored). The number of kept columns
-// is fixed while the search tries to cover everything with it. State:
-//   - coperture_[i]: how many kept columns cover column i;
-//   - sommaCoprenti_[i]: the sum of their indices, so that when exactly one
-//     kept column covers i it is known without a search;
-//   - peso_[i]: the weight of column i, which grows every time a proposed
-//     change is refused while i is uncovered (hole weighting: the columns that
-//     stay uncovered count more and more until a change covers them);
-//   - perdita_[k]: for a kept column k, the weight of the columns only k
-//     covers: what removing it would uncover.
-// A step picks an uncovered column u at random; the kept column nearest to u
-// (most numbers in common) gives way to the column covering u nearest to it
-// that leaves the least uncovered weight (a sample of the ties). The change
-// is taken when it does not add uncovered weight, otherwise with probability
-// exp(-increase / temperature), the temperature tuned every thousand
-// worsening proposals so that about 2% of them are taken.
-// When nothing is uncovered the set is recorded as the best and the kept
-// column of least loss is dropped: the search goes on one column smaller.
+// a column covers another when they share at least t numbers (Vicinato.h).
+// The number of kept columns is fixed while simulated annealing tries to
+// cover everything with it; the cost is the number of uncovered columns.
+// State: coperture_[i], how many kept columns cover column i, so that the
+// cost of a change is read off the columns the leaving and the entering
+// column cover (those only the leaving one covers are lost, those nobody
+// covers and the newcomer does are gained).
+//
+// A step picks an uncovered column u at random and a kept column k among the
+// nearest to u (most numbers in common); k gives way to k with one of its
+// numbers not in u replaced by one of u's it lacks, which covers u. When no
+// input column has those numbers (a conditioned system) the newcomer is an
+// input column covering u nearest to k. The change is taken when it does not
+// raise the cost, otherwise with probability exp(-increase / T).
+// The temperature starts where about half the worsening changes are taken
+// and cools geometrically. When the cost at this size has not improved for a
+// while (a frozen search only repeats itself) the size starts again from the
+// best covering set less a column drawn among the few least useful, warm.
+// When nothing is uncovered the set is recorded as the best and a kept column
+// whose removal uncovers least is dropped: the search goes on one column smaller.
+//
+// The weighted variant counts the uncovered columns by weight, a weight that
+// grows at every refused change while the column stays uncovered (the holes
+// that resist are attacked first), and takes, among all the one-number
+// changes of k towards u, the one leaving least uncovered weight. Fewer steps
+// a second, but on the integral systems it reaches small sizes sooner than
+// the plain one; the two run side by side (RiduzioneOttimizzata.cpp).
 
-#include <array>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "Colonna.h"
-#include "RiduzioneIndice.h"
+#include "Vicinato.h"
 
 namespace combi::riduzione {
 
@@ -39,6 +46,10 @@ public:
     // indices). The redundant columns of it are dropped at once.
     RicercaLocale(const std::vector<Colonna>& colonne, int classe, int punti, const std::vector<uint32_t>& iniziali,
                   uint64_t seme);
+    // The same, over a neighbourhood shared with other searches; `pesata`:
+    // the weighted variant (see above).
+    RicercaLocale(std::shared_ptr<const Vicinato> vicinato, const std::vector<uint32_t>& iniziali, uint64_t seme,
+                  bool pesata = false);
 
     // One step; returns true when it reached a covering set smaller than the best so far.
     bool Passo();
@@ -46,42 +57,61 @@ public:
     const std::vector<uint32_t>& Migliore() const { return migliore_; }  // ascending indices
 
 private:
-    template <typename F>
-    void PerVicini(uint32_t i, F&& f);  // every column sharing >= t numbers with i, once each
+    void Inizia(const std::vector<uint32_t>& iniziali);
     void Aggiungi(uint32_t c);
     void Togli(uint32_t c);
     void Scopri(uint32_t i);
     void Copri(uint32_t i);
-    uint32_t MenoPerdita();
+    int64_t Perdita(uint32_t k);
+    void TogliMenoUtile();
     uint32_t PiuVicinaTenuta(uint32_t u);
+    uint32_t Sostituta(uint32_t u, uint32_t tolta);
+    uint32_t SostitutaVicina(uint32_t u, uint32_t tolta);
     uint32_t MigliorSostituta(uint32_t u, uint32_t tolta, int64_t& variazione);
-    int Comuni(uint32_t a, uint32_t b) const;
-    bool Copre(uint32_t a, uint32_t b) const { return Comuni(a, b) >= punti_; }
+    void CambiVerso(uint32_t u, uint32_t tolta);
+    int64_t Variazione(uint32_t tolta, uint32_t aggiunta);
     uint64_t Caso();
     bool Accetta(int64_t variazione);
+    void Raffredda();
+    void Ricomincia();
 
-    static constexpr size_t kCandidatiProvati = 48;
-    static constexpr uint32_t kPassiTaratura = 1000;
-    static constexpr double kQuotaPeggiori = 0.02;
+    static constexpr uint32_t kCampioniTaratura = 200;   // worsening changes measured for the starting temperature
+    static constexpr double kRaffreddamento = 0.99;      // per stage
+    // A stage is this many steps per kept number: long enough to try each kept
+    // column's changes a few times, short enough that a set of hundreds of
+    // columns cools within seconds rather than the whole budget.
+    static constexpr uint64_t kPassiPerNumero = 3;
+    static constexpr uint32_t kStadiSenzaProgresso = 100; // stages without a better cost before the restart
+    static constexpr double kRiscaldamento = 0.3;        // the restart's temperature, a fraction of the first
+    static constexpr size_t kRicambi = 4;                // the restart drops one of this many least useful columns
+    static constexpr int kProveSostituta = 4;            // one-number changes tried before walking u's coverers
 
-    IndiceCoperture indice_;
-    int punti_;
-    std::vector<std::array<uint64_t, 2>> maschere_;  // the numbers of each column as bits
+    std::shared_ptr<const Vicinato> vicinato_;
+    const Vicinato& v_;
     std::vector<uint32_t> coperture_;
-    std::vector<uint64_t> sommaCoprenti_;
-    std::vector<int64_t> peso_;
-    std::vector<int64_t> perdita_;          // meaningful for kept columns
     std::vector<uint32_t> tenute_;          // the kept columns
     std::vector<int32_t> posTenuta_;        // position in tenute_, -1 if not kept
     std::vector<uint32_t> scoperte_;        // the uncovered columns
     std::vector<int32_t> posScoperta_;      // position in scoperte_, -1 if covered
-    std::vector<uint32_t> timbro_;          // visit marks of PerVicini
-    uint32_t giro_ = 0;
-    std::vector<uint32_t> vicini_;          // the candidates of a step
-    std::vector<uint32_t> soloDaTolta_;     // the columns only the leaving column covers
-    double temperatura_ = 1.0;
-    uint32_t peggioriProposte_ = 0;
-    uint32_t peggioriAccettate_ = 0;
+    Timbri timbri_;
+    std::vector<uint32_t> candidate_;       // the choices of a step
+    // The weighted variant: the weight of each column, and what only the
+    // leaving column covers, walked once for all the candidates of a step.
+    bool pesata_ = false;
+    std::vector<int64_t> peso_;
+    std::vector<uint32_t> soloDaTolta_;
+
+    // Annealing: the starting temperature is measured on the first worsening
+    // changes (all taken meanwhile); a stage is passiStadio_ steps.
+    double temperatura_ = 0;
+    double temperaturaIniziale_ = 0;
+    double sommaPeggioramenti_ = 0;
+    uint32_t peggioramentiMisurati_ = 0;
+    uint64_t passiStadio_ = 1000;
+    uint64_t passoNelloStadio_ = 0;
+    uint32_t stadiSenzaProgresso_ = 0;
+    size_t minimoScoperte_ = SIZE_MAX;      // the best cost at the current size
+
     std::vector<uint32_t> migliore_;
     uint64_t stato_;
 };

@@ -9,6 +9,7 @@
 #include "Garanzia.h"
 #include "RicercaLocale.h"
 #include "RiduzioneOttimizzata.h"
+#include "Vicinato.h"
 
 namespace combi {
 namespace {
@@ -152,6 +153,42 @@ TEST(RiduzioneOttimizzata, EveryBestOfTheSearchCovers) {
                     << "seme " << c.seme << " passo " << passo;
         }
         EXPECT_LT(precedente, v.size() / 4);
+    }
+}
+
+// Who covers whom, stored flat or walked through the subset index (a limit of
+// 0 entries forces the index): the same columns, once each, as a pairwise
+// count of common numbers finds them; and every column found by its numbers.
+TEST(RiduzioneOttimizzata, NeighbourhoodMatchesPairwiseCount) {
+    struct Caso { uint32_t seme; int pool; int classe; int punti; };
+    for (const Caso& c : {Caso{31, 12, 6, 3}, Caso{32, 30, 6, 4}, Caso{33, 14, 8, 5}, Caso{34, 9, 3, 1}}) {
+        const std::vector<Colonna> v = Casuali(c.seme, 250, c.pool, c.classe);
+        for (uint64_t limite : {riduzione::Vicinato::kMassimiVicini, uint64_t(0)}) {
+            SCOPED_TRACE("seme " + std::to_string(c.seme) + " limite " + std::to_string(limite));
+            const riduzione::Vicinato vicinato(v, c.classe, c.punti, limite);
+            riduzione::Timbri timbri;
+            const auto Comuni = [&](size_t a, size_t b) {
+                int k = 0;
+                for (int p = 1; p <= c.classe; ++p)
+                    for (int q = 1; q <= c.classe; ++q) k += v[a][p] == v[b][q];
+                return k;
+            };
+            for (uint32_t i = 0; i < v.size(); ++i) {
+                std::vector<uint32_t> attesi, trovati;
+                for (uint32_t j = 0; j < v.size(); ++j)
+                    if (Comuni(i, j) >= c.punti) attesi.push_back(j);
+                vicinato.PerVicini(i, timbri, [&](uint32_t j) { trovati.push_back(j); });
+                std::sort(trovati.begin(), trovati.end());
+                ASSERT_EQ(trovati, attesi) << "colonna " << i;
+                const int64_t trovata = vicinato.Cerca(vicinato.Numeri(i));
+                ASSERT_GE(trovata, 0);
+                EXPECT_EQ(Comuni(size_t(trovata), i), c.classe);  // i itself, or one with the same numbers
+            }
+            // Numbers no column holds: 1..k shifted beyond the pool.
+            riduzione::Maschera assente = {0, 0};
+            for (int n = 90 - c.classe + 1; n <= 90; ++n) assente[size_t(n >> 6)] |= uint64_t(1) << (n & 63);
+            EXPECT_EQ(vicinato.Cerca(assente), -1);
+        }
     }
 }
 
