@@ -16,8 +16,8 @@ RicercaLocale::RicercaLocale(std::shared_ptr<const Vicinato> vicinato, const std
     : vicinato_(std::move(vicinato)),
       v_(*vicinato_),
       coperture_(v_.Quante(), 0),
-      posTenuta_(v_.Quante(), -1),
-      posScoperta_(v_.Quante(), -1),
+      tenute_(v_.Quante()),
+      scoperte_(v_.Quante()),
       pesata_(pesata),
       peso_(pesata ? v_.Quante() : 0, 1),
       stato_(seme * 0x9E3779B97F4A7C15ull + 0x2545F4914F6CDD1Dull) {
@@ -25,12 +25,12 @@ RicercaLocale::RicercaLocale(std::shared_ptr<const Vicinato> vicinato, const std
 }
 
 void RicercaLocale::Inizia(const std::vector<uint32_t>& iniziali) {
-    for (uint32_t i = 0; i < v_.Quante(); ++i) Scopri(i);
+    for (uint32_t i = 0; i < v_.Quante(); ++i) scoperte_.Inserisci(i);
     for (uint32_t c : iniziali) Aggiungi(c);
     // Redundant columns first: every column they cover is covered twice.
     for (size_t p = tenute_.size(); p-- > 0;)
         if (Perdita(tenute_[p]) == 0) Togli(tenute_[p]);
-    migliore_ = tenute_;
+    migliore_ = tenute_.Membri();
     std::sort(migliore_.begin(), migliore_.end());
     passiStadio_ = std::max<uint64_t>(100, uint64_t(tenute_.size()) * uint64_t(v_.Classe()) * kPassiPerNumero);
 }
@@ -43,37 +43,17 @@ uint64_t RicercaLocale::Caso() {
     return z ^ (z >> 31);
 }
 
-void RicercaLocale::Scopri(uint32_t i) {
-    posScoperta_[i] = int32_t(scoperte_.size());
-    scoperte_.push_back(i);
-}
-
-void RicercaLocale::Copri(uint32_t i) {
-    const int32_t p = posScoperta_[i];
-    const uint32_t ultima = scoperte_.back();
-    scoperte_[size_t(p)] = ultima;
-    posScoperta_[ultima] = p;
-    scoperte_.pop_back();
-    posScoperta_[i] = -1;
-}
-
 void RicercaLocale::Aggiungi(uint32_t c) {
-    posTenuta_[c] = int32_t(tenute_.size());
-    tenute_.push_back(c);
+    tenute_.Inserisci(c);
     v_.PerVicini(c, timbri_, [&](uint32_t i) {
-        if (coperture_[i]++ == 0) Copri(i);
+        if (coperture_[i]++ == 0) scoperte_.Togli(i);
     });
 }
 
 void RicercaLocale::Togli(uint32_t c) {
-    const int32_t p = posTenuta_[c];
-    const uint32_t ultima = tenute_.back();
-    tenute_[size_t(p)] = ultima;
-    posTenuta_[ultima] = p;
-    tenute_.pop_back();
-    posTenuta_[c] = -1;
+    tenute_.Togli(c);
     v_.PerVicini(c, timbri_, [&](uint32_t i) {
-        if (--coperture_[i] == 0) Scopri(i);
+        if (--coperture_[i] == 0) scoperte_.Inserisci(i);
     });
 }
 
@@ -269,7 +249,7 @@ bool RicercaLocale::Passo() {
         // A covering set: record it if it is a new best, then try one column fewer.
         const bool nuovo = tenute_.size() < migliore_.size();
         if (nuovo) {
-            migliore_ = tenute_;
+            migliore_ = tenute_.Membri();
             std::sort(migliore_.begin(), migliore_.end());
         }
         if (tenute_.size() > 1) TogliMenoUtile();

@@ -36,6 +36,7 @@
 #include <vector>
 
 #include "Colonna.h"
+#include "InsiemeIndicizzato.h"
 #include "Vicinato.h"
 
 namespace combi::riduzione {
@@ -60,8 +61,6 @@ private:
     void Inizia(const std::vector<uint32_t>& iniziali);
     void Aggiungi(uint32_t c);
     void Togli(uint32_t c);
-    void Scopri(uint32_t i);
-    void Copri(uint32_t i);
     int64_t Perdita(uint32_t k);
     void TogliMenoUtile();
     uint32_t PiuVicinaTenuta(uint32_t u);
@@ -89,10 +88,8 @@ private:
     std::shared_ptr<const Vicinato> vicinato_;
     const Vicinato& v_;
     std::vector<uint32_t> coperture_;
-    std::vector<uint32_t> tenute_;          // the kept columns
-    std::vector<int32_t> posTenuta_;        // position in tenute_, -1 if not kept
-    std::vector<uint32_t> scoperte_;        // the uncovered columns
-    std::vector<int32_t> posScoperta_;      // position in scoperte_, -1 if covered
+    InsiemeIndicizzato tenute_;             // the kept columns
+    InsiemeIndicizzato scoperte_;           // the uncovered columns
     Timbri timbri_;
     std::vector<uint32_t> candidate_;       // the choices of a step
     // The weighted variant: the weight of each column, and what only the
