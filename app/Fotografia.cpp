@@ -2,10 +2,13 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
+#include <QLabel>
 #include <QListWidget>
 #include <QPixmap>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QThread>
 
 #include "CombiFiltroA.h"
 #include "FinestraPrincipale.h"
@@ -49,6 +52,18 @@ void PreparaSistemaEsempio(CombiFiltroA& c) {
     for (int p = 2; p <= 20; ++p) quadri->addItem("-1,-1,-0");
 }
 
+// The live count restarts after a development; the picture shows its
+// number, not the dots of a count still running (a few seconds at most).
+void AttendiConteggio(CombiFiltroA& c) {
+    QElapsedTimer attesa;
+    attesa.start();
+    do {
+        QApplication::processEvents();
+        QThread::msleep(20);
+    } while (c.LabPreviste()->text().contains(QChar(0x2026)) && attesa.elapsed() < 5000);
+    QApplication::processEvents();
+}
+
 }  // namespace
 
 int EseguiFotografia(const QString& fileImmagine) {
@@ -64,7 +79,7 @@ int EseguiFotografia(const QString& fileImmagine) {
     if (!c.CaricaSistema(sistema)) return 2;
     c.GestSviluppo();
     c.SetColonnaGrid(4);
-    QApplication::processEvents();
+    AttendiConteggio(c);
 
     if (!finestra.grab().save(fileImmagine, "PNG")) {
         QTextStream(stderr) << "Impossibile salvare " << fileImmagine << "\n";
