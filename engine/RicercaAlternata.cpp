@@ -20,13 +20,15 @@ RicercaAlternata::RicercaAlternata(std::shared_ptr<const Vicinato> vicinato, con
         if (orbite->Migliore().size() < Migliore().size()) migliore_ = ricerche_.size();
         ricerche_.push_back(std::move(orbite));
     }
+    dimensione_ = Migliore().size();
 }
 
 bool RicercaAlternata::Passo() {
     const size_t r = turno_++ % ricerche_.size();
     ricerche_[r]->Passo();
-    if (ricerche_[r]->Migliore().size() >= Migliore().size()) return false;
+    if (ricerche_[r]->Migliore().size() >= dimensione_) return false;
     migliore_ = r;
+    dimensione_ = Migliore().size();
     return true;
 }
 

@@ -25,12 +25,12 @@ public:
 
     bool Passo() override;
     const std::vector<uint32_t>& Migliore() const override { return ricerche_[migliore_]->Migliore(); }
-    size_t Ricerche() const { return ricerche_.size(); }
 
 private:
     std::vector<std::unique_ptr<Ricerca>> ricerche_;
     size_t turno_ = 0;
-    size_t migliore_ = 0;  // the search holding the smallest set, ties to the first found
+    size_t migliore_ = 0;    // the search holding the smallest set, ties to the first found
+    size_t dimensione_ = 0;  // its size when last reported: a search also shrinks its own best
 };
 
 }  // namespace combi::riduzione

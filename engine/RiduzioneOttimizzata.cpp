@@ -105,6 +105,7 @@ RisultatoRiduzione RiduciColonneOttimizzate(const std::vector<Colonna>& colonne,
         else
             lavori.back()->ricerca = std::make_unique<riduzione::RicercaAlternata>(vicinato, iniziali, seme);
         lavori.back()->migliore = lavori.back()->ricerca->Migliore().size();
+        lavori.back()->secondi = trascorsi();  // a search may start below the greedy size
     }
     size_t migliore = lavori[0]->migliore;
     oss.MigliorTrovato(migliore, trascorsi());
