@@ -156,7 +156,7 @@ void RicercaPesi::Togli(uint32_t c) {
     puoEntrare_[c] = 0;
 }
 
-// The kept column of highest score, not the one just added; ties to the oldest.
+// The kept orbit of highest score, not the one just added; ties to the oldest.
 uint32_t RicercaPesi::DaTogliere() const {
     uint32_t scelta = UINT32_MAX;
     for (uint32_t k : tenute_) {
@@ -168,7 +168,7 @@ uint32_t RicercaPesi::DaTogliere() const {
     return scelta;
 }
 
-// Among the columns covering u, the allowed one of highest score, ties to the oldest.
+// Among the whole orbits covering u, the allowed one of highest score, ties to the oldest.
 uint32_t RicercaPesi::DaAggiungere(uint32_t u) {
     uint32_t scelta = UINT32_MAX, ripiego = UINT32_MAX;
     Vicini(u, timbriFuori_, [&](uint32_t j) {
@@ -182,7 +182,6 @@ uint32_t RicercaPesi::DaAggiungere(uint32_t u) {
     return scelta != UINT32_MAX ? scelta : ripiego;
 }
 
-// Every uncovered column gains one unit: so does the score of all that would cover it.
 // Every uncovered orbit gains one unit: so does the score of all that would cover it.
 void RicercaPesi::Pesa() {
     for (uint32_t e : scoperte_) {

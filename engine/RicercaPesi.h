@@ -1,21 +1,25 @@
 #pragma once
-// A second local search for the optimising reduction (RiduzioneOttimizzata.h),
-// by row weighting rather than annealing. Not part of the public interface.
+// A local search over the orbits of a rotation of the numbers, for the
+// optimising reduction (RicercaAlternata.h): by orbit weighting rather than
+// annealing. Not part of the public interface.
 //
-// Every column has a weight (1 at the start). Each column j keeps its score up
-// to date: when j is not kept, the weight of the uncovered columns it would
-// cover; when j is kept, minus the weight of the columns only j covers. A step
-// removes the kept column with the highest score (least loss; not the one the
-// last step added), picks an uncovered column u at random and adds, among ALL
-// the input columns covering u, the one with the highest score that
-// configuration checking allows (a removed column may come back only after
-// one of the columns it covers has changed state); ties go to the column left
-// untouched longest. Then every uncovered column gains one unit of weight:
-// the holes that resist weigh more and more. When nothing is uncovered the set
-// is recorded as the best and the kept column of least loss is dropped.
+// The units are the orbits of the input columns under the rotation; an orbit
+// covers another when a column of one covers a column of the other (the
+// relation is the same for every column of an orbit). Only whole orbits of
+// `ordine` columns are kept. Every orbit has a weight (1 at the start) and a
+// score kept up to date: when not kept, the weight of the uncovered orbits it
+// would cover; when kept, minus the weight of the orbits only it covers. A
+// step removes the kept orbit with the highest score (least loss; not the one
+// the last step added), picks an uncovered orbit u at random and adds, among
+// ALL the orbits covering u, the one with the highest score that
+// configuration checking allows (a removed orbit may come back only after an
+// orbit it covers has changed state); ties go to the one left untouched
+// longest. Then every uncovered orbit gains one unit of weight: the holes that
+// resist weigh more and more. When nothing is uncovered the set is recorded
+// as the best and the kept orbit of least loss is dropped.
 //
-// The kept column covering an element alone is found without a walk: each
-// element keeps the XOR of the indices of the kept columns covering it.
+// The kept orbit covering another alone is found without a walk: each orbit
+// keeps the XOR of the kept orbits covering it.
 
 #include <cstdint>
 #include <memory>
