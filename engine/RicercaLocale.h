@@ -41,7 +41,16 @@
 
 namespace combi::riduzione {
 
-class RicercaLocale {
+// What the optimising reduction runs on a thread: steps, and the best set.
+class Ricerca {
+public:
+    virtual ~Ricerca() = default;
+    // One step; returns true when it reached a covering set smaller than the best so far.
+    virtual bool Passo() = 0;
+    virtual const std::vector<uint32_t>& Migliore() const = 0;  // ascending indices
+};
+
+class RicercaLocale : public Ricerca {
 public:
     // `colonne` checked, of class `classe`; `iniziali`: a covering set (0-based
     // indices). The redundant columns of it are dropped at once.
@@ -52,10 +61,8 @@ public:
     RicercaLocale(std::shared_ptr<const Vicinato> vicinato, const std::vector<uint32_t>& iniziali, uint64_t seme,
                   bool pesata = false);
 
-    // One step; returns true when it reached a covering set smaller than the best so far.
-    bool Passo();
-
-    const std::vector<uint32_t>& Migliore() const { return migliore_; }  // ascending indices
+    bool Passo() override;
+    const std::vector<uint32_t>& Migliore() const override { return migliore_; }
 
 private:
     void Inizia(const std::vector<uint32_t>& iniziali);

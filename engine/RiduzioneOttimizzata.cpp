@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "Buchi.h"
+#include "RicercaAlternata.h"
 #include "RicercaLocale.h"
 #include "RiduzioneFasi.h"
 
@@ -46,7 +47,7 @@ std::vector<uint32_t> Indici(const std::vector<Colonna>& colonne, const std::vec
 // One search on its thread. What the main thread reads while it runs is
 // atomic; the best set itself only after the thread has ended.
 struct Lavoro {
-    std::unique_ptr<riduzione::RicercaLocale> ricerca;
+    std::unique_ptr<riduzione::Ricerca> ricerca;
     std::atomic<size_t> migliore{0};
     std::atomic<double> secondi{0};
     std::atomic<uint64_t> passi{0};
@@ -55,7 +56,7 @@ struct Lavoro {
 
 void Esegui(Lavoro& lavoro, uint64_t passiMassimi, Orologio::time_point inizio, Orologio::time_point fine,
             const std::atomic<bool>& fermo) {
-    riduzione::RicercaLocale& ricerca = *lavoro.ricerca;
+    riduzione::Ricerca& ricerca = *lavoro.ricerca;
     for (uint64_t passo = 0; passiMassimi == 0 || passo < passiMassimi; ++passo) {
         // The clock and the stop are read every 64 steps: a step may take
         // well under a microsecond.
@@ -74,8 +75,8 @@ void Esegui(Lavoro& lavoro, uint64_t passiMassimi, Orologio::time_point inizio, 
 
 // The search whose best set is smallest, ties to the first: the same choice
 // whatever thread ended first.
-const riduzione::RicercaLocale& Vincitrice(const std::vector<std::unique_ptr<Lavoro>>& lavori) {
-    const riduzione::RicercaLocale* scelta = lavori[0]->ricerca.get();
+const riduzione::Ricerca& Vincitrice(const std::vector<std::unique_ptr<Lavoro>>& lavori) {
+    const riduzione::Ricerca* scelta = lavori[0]->ricerca.get();
     for (const auto& l : lavori)
         if (l->ricerca->Migliore().size() < scelta->Migliore().size()) scelta = l->ricerca.get();
     return *scelta;
@@ -98,9 +99,13 @@ RisultatoRiduzione RiduciColonneOttimizzate(const std::vector<Colonna>& colonne,
     std::vector<std::unique_ptr<Lavoro>> lavori;
     for (int r = 0; r < kRicerche; ++r) {
         lavori.push_back(std::make_unique<Lavoro>());
-        lavori.back()->ricerca =
-            std::make_unique<riduzione::RicercaLocale>(vicinato, iniziali, opzioni.seme * kRicerche + uint64_t(r), r == 1);
+        const uint64_t seme = opzioni.seme * kRicerche + uint64_t(r);
+        if (r == 0)
+            lavori.back()->ricerca = std::make_unique<riduzione::RicercaLocale>(vicinato, iniziali, seme);
+        else
+            lavori.back()->ricerca = std::make_unique<riduzione::RicercaAlternata>(vicinato, iniziali, seme);
         lavori.back()->migliore = lavori.back()->ricerca->Migliore().size();
+        lavori.back()->secondi = trascorsi();  // a search may start below the greedy size
     }
     size_t migliore = lavori[0]->migliore;
     oss.MigliorTrovato(migliore, trascorsi());

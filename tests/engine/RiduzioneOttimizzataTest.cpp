@@ -8,6 +8,7 @@
 #include "Errore.h"
 #include "Garanzia.h"
 #include "RicercaLocale.h"
+#include "RicercaPesi.h"
 #include "RiduzioneOttimizzata.h"
 #include "Vicinato.h"
 
@@ -154,6 +155,54 @@ TEST(RiduzioneOttimizzata, EveryBestOfTheSearchCovers) {
         }
         EXPECT_LT(precedente, v.size() / 4);
     }
+}
+
+// The search over the orbits of a rotation of 1..n by n / ordine places: each
+// best it reports covers the whole input (pair by pair) and is made of whole
+// orbits (every kept column rotated is kept). An input not closed under the
+// rotation, or an order that does not divide n, is refused.
+TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
+    struct Caso { int n; int classe; int punti; int ordine; bool valida; };
+    for (const Caso& c : {Caso{12, 6, 4, 3, true}, Caso{12, 6, 3, 6, true}, Caso{10, 5, 3, 2, true},
+                          Caso{12, 6, 4, 5, false}}) {
+        std::vector<int> numeri;
+        for (int x = 1; x <= c.n; ++x) numeri.push_back(x);
+        const std::vector<Colonna> v = ColonneIntegrali(numeri, c.classe);
+        const auto vicinato = std::make_shared<const riduzione::Vicinato>(v, c.classe, c.punti);
+        riduzione::RicercaPesi ricerca(vicinato, c.ordine, 7);
+        ASSERT_EQ(ricerca.Valida(), c.valida) << c.n << " " << c.ordine;
+        if (!c.valida) continue;
+        const auto Ruota = [&](const Colonna& a) {
+            std::vector<int> r;
+            for (int p = 1; p <= c.classe; ++p) r.push_back((a[p] - 1 + c.n / c.ordine) % c.n + 1);
+            std::sort(r.begin(), r.end());
+            return r;
+        };
+        const auto Numeri = [&](const Colonna& a) {
+            std::vector<int> r;
+            for (int p = 1; p <= c.classe; ++p) r.push_back(a[p]);
+            return r;
+        };
+        for (int passo = 0; passo < 3000; ++passo) {
+            if (passo > 0 && !ricerca.Passo()) continue;
+            const std::vector<uint32_t>& m = ricerca.Migliore();
+            ASSERT_TRUE(std::is_sorted(m.begin(), m.end()));
+            ASSERT_EQ(m.size() % size_t(c.ordine), 0u);
+            for (uint32_t k : m)
+                ASSERT_TRUE(std::any_of(m.begin(), m.end(), [&](uint32_t j) { return Numeri(v[j]) == Ruota(v[k]); }));
+            for (const Colonna& x : v)
+                ASSERT_TRUE(std::any_of(m.begin(), m.end(), [&](uint32_t k) {
+                    int comuni = 0;
+                    for (int p = 1; p <= c.classe; ++p)
+                        for (int q = 1; q <= c.classe; ++q) comuni += x[p] == v[k][q];
+                    return comuni >= c.punti;
+                })) << c.n << " " << c.ordine << " passo " << passo;
+        }
+    }
+    // Random columns are not closed under any rotation.
+    const std::vector<Colonna> casuali = Casuali(31, 200, 12, 6);
+    riduzione::RicercaPesi aperta(std::make_shared<const riduzione::Vicinato>(casuali, 6, 3), 3, 1);
+    EXPECT_FALSE(aperta.Valida());
 }
 
 // Who covers whom, stored flat or walked through the subset index (a limit of

@@ -1,0 +1,222 @@
+#include "RicercaPesi.h"
+
+#include <algorithm>
+
+namespace combi::riduzione {
+
+RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, uint64_t seme)
+    : vicinato_(std::move(vicinato)),
+      v_(*vicinato_),
+      tenute_(0),
+      scoperte_(0),
+      stato_(seme * 0x9E3779B97F4A7C15ull + 0x2545F4914F6CDD1Dull) {
+    valida_ = CostruisciOrbite(ordine);
+    if (!valida_) return;
+    coperture_.assign(unita_, 0);
+    xorTenute_.assign(unita_, 0);
+    peso_.assign(unita_, 1);
+    punteggio_.assign(unita_, 0);
+    ultimoCambio_.assign(unita_, 0);
+    puoEntrare_.assign(unita_, 1);
+    tenute_ = InsiemeIndicizzato(unita_);
+    scoperte_ = InsiemeIndicizzato(unita_);
+    for (uint32_t i = 0; i < unita_; ++i) {
+        scoperte_.Inserisci(i);
+        Vicini(i, timbriFuori_, [&](uint32_t) { ++punteggio_[i]; });
+    }
+    // Greedy start: a whole orbit of most score covering a random hole.
+    while (!scoperte_.empty()) {
+        const uint32_t u = scoperte_[size_t(Caso() % scoperte_.size())];
+        uint32_t scelta = UINT32_MAX;
+        Vicini(u, timbriFuori_, [&](uint32_t j) {
+            if (piena_[j] && (scelta == UINT32_MAX || punteggio_[j] > punteggio_[scelta])) scelta = j;
+        });
+        if (scelta == UINT32_MAX) {
+            valida_ = false;
+            return;
+        }
+        Aggiungi(scelta);
+    }
+    Registra();
+}
+
+// The orbits of the rotation by m / ordine places of the m numbers in use.
+bool RicercaPesi::CostruisciOrbite(int ordine) {
+    Maschera tutti{0, 0};
+    for (uint32_t i = 0; i < v_.Quante(); ++i) tutti[0] |= v_.Numeri(i)[0], tutti[1] |= v_.Numeri(i)[1];
+    std::vector<int> numeri;
+    for (int n = 0; n < 128; ++n)
+        if ((tutti[size_t(n >> 6)] >> (n & 63)) & 1) numeri.push_back(n);
+    const int m = int(numeri.size());
+    if (ordine < 2 || m % ordine != 0) return false;
+    std::vector<int> immagine(128, -1);
+    for (int p = 0; p < m; ++p) immagine[size_t(numeri[size_t(p)])] = numeri[size_t((p + m / ordine) % m)];
+    const auto ruota = [&](const Maschera& x) {
+        Maschera y{0, 0};
+        for (int n : numeri)
+            if ((x[size_t(n >> 6)] >> (n & 63)) & 1) {
+                const int r = immagine[size_t(n)];
+                y[size_t(r >> 6)] |= uint64_t(1) << (r & 63);
+            }
+        return y;
+    };
+    std::vector<uint32_t> orbita(v_.Quante(), UINT32_MAX);
+    inizioOrbita_.push_back(0);
+    for (uint32_t i = 0; i < v_.Quante(); ++i) {
+        if (orbita[i] != UINT32_MAX) continue;
+        Maschera x = v_.Numeri(i);
+        for (int g = 0; g < ordine; ++g) {
+            const int64_t j = v_.Cerca(x);
+            if (j < 0) return false;  // the input is not closed under the rotation
+            if (orbita[size_t(j)] == UINT32_MAX) {
+                orbita[size_t(j)] = unita_;
+                colonneOrbita_.push_back(uint32_t(j));
+            }
+            x = ruota(x);
+        }
+        inizioOrbita_.push_back(colonneOrbita_.size());
+        piena_.push_back(inizioOrbita_.back() - inizioOrbita_[inizioOrbita_.size() - 2] == uint64_t(ordine));
+        ++unita_;
+    }
+    // An orbit covers another when its first column covers a column of it.
+    std::vector<uint32_t> segno(unita_, UINT32_MAX);
+    inizioVicine_.push_back(0);
+    for (uint32_t o = 0; o < unita_; ++o) {
+        v_.PerVicini(colonneOrbita_[inizioOrbita_[o]], timbriFuori_, [&](uint32_t j) {
+            const uint32_t p = orbita[j];
+            if (segno[p] == o) return;
+            segno[p] = o;
+            vicine_.push_back(p);
+        });
+        if (vicine_.size() > kMassimeVicine) return false;
+        inizioVicine_.push_back(vicine_.size());
+    }
+    return true;
+}
+
+// The kept set as columns, ascending.
+void RicercaPesi::Registra() {
+    migliore_.clear();
+    for (uint32_t k : tenute_) {
+        if (inizioOrbita_.empty()) {
+            migliore_.push_back(k);
+            continue;
+        }
+        for (uint64_t m = inizioOrbita_[k]; m < inizioOrbita_[size_t(k) + 1]; ++m) migliore_.push_back(colonneOrbita_[m]);
+    }
+    std::sort(migliore_.begin(), migliore_.end());
+}
+
+uint64_t RicercaPesi::Caso() {
+    uint64_t z = (stato_ += 0x9E3779B97F4A7C15ull);
+    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ull;
+    z = (z ^ (z >> 27)) * 0x94D049BB133111EBull;
+    return z ^ (z >> 31);
+}
+
+void RicercaPesi::Aggiungi(uint32_t c) {
+    tenute_.Inserisci(c);
+    ultimoCambio_[c] = passo_;
+    Vicini(c, timbriFuori_, [&](uint32_t e) {
+        const int64_t w = peso_[e];
+        if (coperture_[e] == 0) {
+            // Covered now: nobody gains it any more, c alone covers it.
+            scoperte_.Togli(e);
+            Vicini(e, timbriDentro_, [&](uint32_t j) {
+                punteggio_[j] -= w;
+                puoEntrare_[j] = 1;
+            });
+            punteggio_[c] -= w;
+        } else if (coperture_[e] == 1) {
+            punteggio_[xorTenute_[e]] += w;  // its single coverer no longer alone
+        }
+        ++coperture_[e];
+        xorTenute_[e] ^= c;
+    });
+}
+
+void RicercaPesi::Togli(uint32_t c) {
+    tenute_.Togli(c);
+    ultimoCambio_[c] = passo_;
+    Vicini(c, timbriFuori_, [&](uint32_t e) {
+        const int64_t w = peso_[e];
+        xorTenute_[e] ^= c;
+        --coperture_[e];
+        if (coperture_[e] == 0) {
+            scoperte_.Inserisci(e);
+            punteggio_[c] += w;  // c no longer its single coverer
+            Vicini(e, timbriDentro_, [&](uint32_t j) {
+                punteggio_[j] += w;
+                puoEntrare_[j] = 1;
+            });
+        } else if (coperture_[e] == 1) {
+            punteggio_[xorTenute_[e]] -= w;  // the one left covers it alone
+        }
+    });
+    puoEntrare_[c] = 0;
+}
+
+// The kept orbit of highest score, not the one just added; ties to the oldest.
+uint32_t RicercaPesi::DaTogliere() const {
+    uint32_t scelta = UINT32_MAX;
+    for (uint32_t k : tenute_) {
+        if (k == ultimaAggiunta_ && tenute_.size() > 1) continue;
+        if (scelta == UINT32_MAX || punteggio_[k] > punteggio_[scelta] ||
+            (punteggio_[k] == punteggio_[scelta] && ultimoCambio_[k] < ultimoCambio_[scelta]))
+            scelta = k;
+    }
+    return scelta;
+}
+
+// Among the whole orbits covering u, the allowed one of highest score, ties to the oldest.
+uint32_t RicercaPesi::DaAggiungere(uint32_t u) {
+    uint32_t scelta = UINT32_MAX, ripiego = UINT32_MAX;
+    Vicini(u, timbriFuori_, [&](uint32_t j) {
+        if (!piena_[j]) return;
+        if (ripiego == UINT32_MAX || punteggio_[j] > punteggio_[ripiego]) ripiego = j;
+        if (!puoEntrare_[j]) return;
+        if (scelta == UINT32_MAX || punteggio_[j] > punteggio_[scelta] ||
+            (punteggio_[j] == punteggio_[scelta] && ultimoCambio_[j] < ultimoCambio_[scelta]))
+            scelta = j;
+    });
+    return scelta != UINT32_MAX ? scelta : ripiego;
+}
+
+// Every uncovered orbit gains one unit: so does the score of all that would cover it.
+void RicercaPesi::Pesa() {
+    for (uint32_t e : scoperte_) {
+        ++peso_[e];
+        Vicini(e, timbriDentro_, [&](uint32_t j) { ++punteggio_[j]; });
+    }
+}
+
+bool RicercaPesi::Passo() {
+    if (finita_) return false;
+    ++passo_;
+    bool meglio = false;
+    if (scoperte_.empty()) {
+        const size_t prima = migliore_.size();
+        if (tenute_.size() < dimensioneMigliore_) {
+            dimensioneMigliore_ = tenute_.size();
+            Registra();
+            meglio = migliore_.size() < prima;
+        }
+        // One orbit fewer than two would leave most of the input uncovered
+        // at every step, each step a walk of nearly all the orbits: the
+        // search ends here.
+        if (tenute_.size() <= 2) finita_ = true;
+        if (finita_) return meglio;
+        ultimaAggiunta_ = UINT32_MAX;
+        Togli(DaTogliere());
+        return meglio;
+    }
+    Togli(DaTogliere());
+    const uint32_t u = scoperte_[size_t(Caso() % scoperte_.size())];
+    const uint32_t c = DaAggiungere(u);
+    Aggiungi(c);
+    ultimaAggiunta_ = c;
+    Pesa();
+    return meglio;
+}
+
+}  // namespace combi::riduzione

@@ -1,0 +1,88 @@
+#pragma once
+// A local search over the orbits of a rotation of the numbers, for the
+// optimising reduction (RicercaAlternata.h): by orbit weighting rather than
+// annealing. Not part of the public interface.
+//
+// The units are the orbits of the input columns under the rotation; an orbit
+// covers another when a column of one covers a column of the other (the
+// relation is the same for every column of an orbit). Only whole orbits of
+// `ordine` columns are kept. Every orbit has a weight (1 at the start) and a
+// score kept up to date: when not kept, the weight of the uncovered orbits it
+// would cover; when kept, minus the weight of the orbits only it covers. A
+// step removes the kept orbit with the highest score (least loss; not the one
+// the last step added), picks an uncovered orbit u at random and adds, among
+// ALL the orbits covering u, the one with the highest score that
+// configuration checking allows (a removed orbit may come back only after an
+// orbit it covers has changed state); ties go to the one left untouched
+// longest. Then every uncovered orbit gains one unit of weight: the holes that
+// resist weigh more and more. When nothing is uncovered the set is recorded
+// as the best and the kept orbit of least loss is dropped.
+//
+// The kept orbit covering another alone is found without a walk: each orbit
+// keeps the XOR of the kept orbits covering it.
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "InsiemeIndicizzato.h"
+#include "RicercaLocale.h"
+#include "Vicinato.h"
+
+namespace combi::riduzione {
+
+class RicercaPesi : public Ricerca {
+public:
+    // The search over the orbits of a rotation of order `ordine` of the numbers
+    // the input uses: a kept orbit is `ordine` columns. Valida() is false when
+    // the input is not closed under the rotation or an orbit cannot be covered.
+    RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, uint64_t seme);
+    bool Valida() const { return valida_; }
+
+    bool Passo() override;
+    const std::vector<uint32_t>& Migliore() const override { return migliore_; }
+
+private:
+    // Orbit lists beyond this many entries (4 bytes each) are not built.
+    static constexpr uint64_t kMassimeVicine = 40'000'000;
+
+    template <typename F>
+    void Vicini(uint32_t i, Timbri&, F&& f) const {
+        for (uint64_t m = inizioVicine_[i]; m < inizioVicine_[size_t(i) + 1]; ++m) f(vicine_[m]);
+    }
+    bool CostruisciOrbite(int ordine);
+    void Registra();
+    void Aggiungi(uint32_t c);
+    void Togli(uint32_t c);
+    uint32_t DaTogliere() const;
+    uint32_t DaAggiungere(uint32_t u);
+    void Pesa();
+    uint64_t Caso();
+
+    std::shared_ptr<const Vicinato> vicinato_;
+    const Vicinato& v_;
+    // Orbit mode: the columns of orbit o are colonneOrbita_[inizioOrbita_[o]..[o+1]),
+    // the orbits it covers vicine_[inizioVicine_[o]..[o+1]); piena_: a whole orbit of `ordine` columns.
+    bool valida_ = true;
+    bool finita_ = false;
+    uint32_t unita_ = 0;
+    std::vector<uint64_t> inizioOrbita_, inizioVicine_;
+    std::vector<uint32_t> colonneOrbita_, vicine_;
+    std::vector<uint8_t> piena_;
+    size_t dimensioneMigliore_ = SIZE_MAX;
+    std::vector<uint32_t> coperture_;
+    std::vector<uint32_t> xorTenute_;     // XOR of the kept columns covering each column
+    std::vector<int64_t> peso_;
+    std::vector<int64_t> punteggio_;
+    std::vector<uint64_t> ultimoCambio_;  // the step at which each column last entered or left
+    std::vector<uint8_t> puoEntrare_;     // configuration checking
+    InsiemeIndicizzato tenute_;
+    InsiemeIndicizzato scoperte_;
+    Timbri timbriFuori_, timbriDentro_;
+    uint32_t ultimaAggiunta_ = UINT32_MAX;
+    uint64_t passo_ = 0;
+    std::vector<uint32_t> migliore_;
+    uint64_t stato_;
+};
+
+}  // namespace combi::riduzione
