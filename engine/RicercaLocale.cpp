@@ -20,7 +20,7 @@ RicercaLocale::RicercaLocale(std::shared_ptr<const Vicinato> vicinato, const std
       scoperte_(v_.Quante()),
       pesata_(pesata),
       peso_(pesata ? v_.Quante() : 0, 1),
-      stato_(seme * 0x9E3779B97F4A7C15ull + 0x2545F4914F6CDD1Dull) {
+      caso_(seme) {
     Inizia(iniziali);
 }
 
@@ -33,14 +33,6 @@ void RicercaLocale::Inizia(const std::vector<uint32_t>& iniziali) {
     migliore_ = tenute_.Membri();
     std::sort(migliore_.begin(), migliore_.end());
     passiStadio_ = std::max<uint64_t>(100, uint64_t(tenute_.size()) * uint64_t(v_.Classe()) * kPassiPerNumero);
-}
-
-// splitmix64: the same sequence on every platform for the same seed.
-uint64_t RicercaLocale::Caso() {
-    uint64_t z = (stato_ += 0x9E3779B97F4A7C15ull);
-    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ull;
-    z = (z ^ (z >> 27)) * 0x94D049BB133111EBull;
-    return z ^ (z >> 31);
 }
 
 void RicercaLocale::Aggiungi(uint32_t c) {

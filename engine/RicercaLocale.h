@@ -36,6 +36,7 @@
 #include <vector>
 
 #include "Colonna.h"
+#include "GeneratoreCasuale.h"
 #include "InsiemeIndicizzato.h"
 #include "Vicinato.h"
 
@@ -76,7 +77,7 @@ private:
     uint32_t MigliorSostituta(uint32_t u, uint32_t tolta, int64_t& variazione);
     void CambiVerso(uint32_t u, uint32_t tolta);
     int64_t Variazione(uint32_t tolta, uint32_t aggiunta);
-    uint64_t Caso();
+    uint64_t Caso() { return caso_(); }
     bool Accetta(int64_t variazione);
     void Raffredda();
     void Ricomincia();
@@ -117,7 +118,7 @@ private:
     size_t minimoScoperte_ = SIZE_MAX;      // the best cost at the current size
 
     std::vector<uint32_t> migliore_;
-    uint64_t stato_;
+    GeneratoreCasuale caso_;
 };
 
 }  // namespace combi::riduzione

@@ -9,7 +9,7 @@ RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, u
       v_(*vicinato_),
       tenute_(0),
       scoperte_(0),
-      stato_(seme * 0x9E3779B97F4A7C15ull + 0x2545F4914F6CDD1Dull) {
+      caso_(seme) {
     valida_ = CostruisciOrbite(ordine);
     if (!valida_) return;
     coperture_.assign(unita_, 0);
@@ -105,13 +105,6 @@ void RicercaPesi::Registra() {
         for (uint64_t m = inizioOrbita_[k]; m < inizioOrbita_[size_t(k) + 1]; ++m) migliore_.push_back(colonneOrbita_[m]);
     }
     std::sort(migliore_.begin(), migliore_.end());
-}
-
-uint64_t RicercaPesi::Caso() {
-    uint64_t z = (stato_ += 0x9E3779B97F4A7C15ull);
-    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ull;
-    z = (z ^ (z >> 27)) * 0x94D049BB133111EBull;
-    return z ^ (z >> 31);
 }
 
 void RicercaPesi::Aggiungi(uint32_t c) {

@@ -25,6 +25,7 @@
 #include <memory>
 #include <vector>
 
+#include "GeneratoreCasuale.h"
 #include "InsiemeIndicizzato.h"
 #include "RicercaLocale.h"
 #include "Vicinato.h"
@@ -57,7 +58,7 @@ private:
     uint32_t DaTogliere() const;
     uint32_t DaAggiungere(uint32_t u);
     void Pesa();
-    uint64_t Caso();
+    uint64_t Caso() { return caso_(); }
 
     std::shared_ptr<const Vicinato> vicinato_;
     const Vicinato& v_;
@@ -82,7 +83,7 @@ private:
     uint32_t ultimaAggiunta_ = UINT32_MAX;
     uint64_t passo_ = 0;
     std::vector<uint32_t> migliore_;
-    uint64_t stato_;
+    GeneratoreCasuale caso_;
 };
 
 }  // namespace combi::riduzione
