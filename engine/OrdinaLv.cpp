@@ -6,7 +6,7 @@
 
 #include "Errore.h"
 #include "Formato.h"
-#include "Quicksort.h"
+#include "OrdinamentoQuicksort.h"
 
 namespace combi {
 

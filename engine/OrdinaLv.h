@@ -1,7 +1,7 @@
 #pragma once
 // Sorting the rows of a report list by one of its columns, with the list
-// quicksort (Quicksort.h), so that rows with equal keys keep the order users
-// have always seen.
+// quicksort (OrdinamentoQuicksort.h), so that rows with equal keys keep the
+// order users have always seen.
 
 #include <cstdint>
 #include <string>

@@ -5,7 +5,7 @@
 
 #include "Errore.h"
 #include "FileColonne.h"
-#include "Quicksort.h"
+#include "OrdinamentoQuicksort.h"
 
 namespace combi::riduzione {
 
