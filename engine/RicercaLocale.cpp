@@ -97,23 +97,42 @@ static int BitNumero(const Maschera& m, uint64_t i) {
     return int(parola * 64) + std::countr_zero(x);
 }
 
+// How column a differs from column b: a's numbers b lacks (fuori) and b's
+// numbers a lacks (mancanti), with their counts.
+struct Differenza {
+    Maschera fuori, mancanti;
+    uint64_t quanteFuori, quanteMancanti;
+};
+
+static Differenza Differenze(const Maschera& a, const Maschera& b) {
+    Differenza d;
+    d.fuori = {a[0] & ~b[0], a[1] & ~b[1]};
+    d.mancanti = {b[0] & ~a[0], b[1] & ~a[1]};
+    d.quanteFuori = uint64_t(std::popcount(d.fuori[0]) + std::popcount(d.fuori[1]));
+    d.quanteMancanti = uint64_t(std::popcount(d.mancanti[0]) + std::popcount(d.mancanti[1]));
+    return d;
+}
+
+// The numbers of a with the i-th of d.fuori replaced by the j-th of d.mancanti.
+static Maschera Scambio(const Maschera& a, const Differenza& d, uint64_t i, uint64_t j) {
+    const int x = BitNumero(d.fuori, i);
+    const int y = BitNumero(d.mancanti, j);
+    Maschera m = a;
+    m[size_t(x >> 6)] &= ~(uint64_t(1) << (x & 63));
+    m[size_t(y >> 6)] |= uint64_t(1) << (y & 63);
+    return m;
+}
+
 // `tolta` with one of its numbers outside u replaced by one of u's it lacks:
 // one number nearer to u, so it covers u. Any input column covering u
 // nearest to `tolta` when no such change is an input column.
 uint32_t RicercaLocale::Sostituta(uint32_t u, uint32_t tolta) {
     const Maschera& a = v_.Numeri(tolta);
-    const Maschera& b = v_.Numeri(u);
-    const Maschera fuori = {a[0] & ~b[0], a[1] & ~b[1]};
-    const Maschera mancanti = {b[0] & ~a[0], b[1] & ~a[1]};
-    const uint64_t quanteFuori = uint64_t(std::popcount(fuori[0]) + std::popcount(fuori[1]));
-    const uint64_t quanteMancanti = uint64_t(std::popcount(mancanti[0]) + std::popcount(mancanti[1]));
+    const Differenza d = Differenze(a, v_.Numeri(u));
     for (int prova = 0; prova < kProveSostituta; ++prova) {
-        const int x = BitNumero(fuori, Caso() % quanteFuori);
-        const int y = BitNumero(mancanti, Caso() % quanteMancanti);
-        Maschera m = a;
-        m[size_t(x >> 6)] &= ~(uint64_t(1) << (x & 63));
-        m[size_t(y >> 6)] |= uint64_t(1) << (y & 63);
-        const int64_t c = v_.Cerca(m);
+        const uint64_t i = Caso() % d.quanteFuori;
+        const uint64_t j = Caso() % d.quanteMancanti;
+        const int64_t c = v_.Cerca(Scambio(a, d, i, j));
         if (c >= 0) return uint32_t(c);
     }
     return SostitutaVicina(u, tolta);
@@ -144,20 +163,11 @@ int64_t RicercaLocale::Variazione(uint32_t tolta, uint32_t aggiunta) {
 // candidate_; the input columns covering u nearest to `tolta` when there is none.
 void RicercaLocale::CambiVerso(uint32_t u, uint32_t tolta) {
     const Maschera& a = v_.Numeri(tolta);
-    const Maschera& b = v_.Numeri(u);
-    const Maschera fuori = {a[0] & ~b[0], a[1] & ~b[1]};
-    const Maschera mancanti = {b[0] & ~a[0], b[1] & ~a[1]};
-    const uint64_t quanteFuori = uint64_t(std::popcount(fuori[0]) + std::popcount(fuori[1]));
-    const uint64_t quanteMancanti = uint64_t(std::popcount(mancanti[0]) + std::popcount(mancanti[1]));
+    const Differenza d = Differenze(a, v_.Numeri(u));
     candidate_.clear();
-    for (uint64_t i = 0; i < quanteFuori; ++i)
-        for (uint64_t j = 0; j < quanteMancanti; ++j) {
-            const int x = BitNumero(fuori, i);
-            const int y = BitNumero(mancanti, j);
-            Maschera m = a;
-            m[size_t(x >> 6)] &= ~(uint64_t(1) << (x & 63));
-            m[size_t(y >> 6)] |= uint64_t(1) << (y & 63);
-            const int64_t c = v_.Cerca(m);
+    for (uint64_t i = 0; i < d.quanteFuori; ++i)
+        for (uint64_t j = 0; j < d.quanteMancanti; ++j) {
+            const int64_t c = v_.Cerca(Scambio(a, d, i, j));
             if (c >= 0) candidate_.push_back(uint32_t(c));
         }
     if (candidate_.empty()) SostitutaVicina(u, tolta);  // leaves its choices in candidate_
