@@ -203,7 +203,12 @@ TEST_F(CliTest, InfoDescribesSystemsAndColumns) {
     EXPECT_NE(s.find("Riduzione N-K : 2"), std::string::npos);
     EXPECT_NE(s.find("Condizioni : 20"), std::string::npos);
     EXPECT_NE(s.find("Parametri: Resto a : 3;"), std::string::npos);
-    EXPECT_NE(s.find("Quadri di recupero in uso : 1 (1-1) 2 (1-2)"), std::string::npos);
+    EXPECT_NE(s.find("Quadri di recupero in uso : 1 (1-1) 2 (1-2)\n"), std::string::npos);
+    FileSistema ultimo = LeggiFileSistema(P("s.sic"));
+    ultimo.quadri[20] = {-1, 3, 4};
+    ScriviFileSistema(P("q.sic"), ultimo);
+    ASSERT_EQ(Esegui({"info", P("q.sic")}), 0);
+    EXPECT_NE(out_.str().find("Quadri di recupero in uso : 1 (1-1) 2 (1-2) 20 (3-4)\n"), std::string::npos);
     ASSERT_EQ(Esegui({"sviluppa", P("s.sic"), "--colonne", P("v.col")}), 0);
     std::ofstream(P("v.col"), std::ios::binary | std::ios::app) << "abc";
     ASSERT_EQ(Esegui({"info", P("v.col")}), 0);

@@ -42,7 +42,8 @@ TEST(ArchivioEstrazioni, EveryRefusedLineIsNamedByItsNumberAndTheRestIsRead) {
         "2024-03-16;SuperEnalotto;1;2;3;4;5;6;7;8;9\n"               // 16
         "2024-03-16;10ELotto;1;2;3;4;5;6;7;8;9;10;11;12;13;14;15;16;17;18;19;20\n"  // 17
         "2024-03-16;10ELotto;1;2;3;4;5;6;7;8;9;10;11;12;13;14;15;16;17;18;19\n"     // 18
-        "2024-03-16;Nazionale;0;2;3;4;5";                            // 19, no line end
+        "2024-03-16;Xari;1;2;3;4;5\n"                                // 19: only the first letter differs
+        "2024-03-16;Nazionale;0;2;3;4;5";                            // 20, no line end
     const Archivio a = LeggiArchivio(testo);
     std::vector<std::string> messaggi;
     for (const SegnalazioneArchivio& s : a.scartate) messaggi.push_back(s.messaggio);
@@ -58,7 +59,8 @@ TEST(ArchivioEstrazioni, EveryRefusedLineIsNamedByItsNumberAndTheRestIsRead) {
                             "Riga 15: il numero 6 è ripetuto",
                             "Riga 16: SuperEnalotto vuole 6 numeri, più Jolly e SuperStar facoltativi: la riga ne ha 9",
                             "Riga 18: 10ELotto vuole 20 numeri: la riga ne ha 19",
-                            "Riga 19: il numero 0 è fuori da 1 a 90",
+                            "Riga 19: ruota o gioco sconosciuto \"Xari\"",
+                            "Riga 20: il numero 0 è fuori da 1 a 90",
                         }));
     ASSERT_EQ(a.estrazioni.size(), 4u);
     const Estrazione& bari = a.estrazioni[0];
