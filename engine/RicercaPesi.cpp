@@ -4,13 +4,14 @@
 
 namespace combi::riduzione {
 
-RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, uint64_t seme)
+RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, uint64_t seme,
+                         uint64_t massimeVicine)
     : vicinato_(std::move(vicinato)),
       v_(*vicinato_),
       tenute_(0),
       scoperte_(0),
       caso_(seme) {
-    valida_ = CostruisciOrbite(ordine);
+    valida_ = CostruisciOrbite(ordine, massimeVicine);
     if (!valida_) return;
     coperture_.assign(unita_, 0);
     xorTenute_.assign(unita_, 0);
@@ -41,7 +42,7 @@ RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, u
 }
 
 // The orbits of the rotation by m / ordine places of the m numbers in use.
-bool RicercaPesi::CostruisciOrbite(int ordine) {
+bool RicercaPesi::CostruisciOrbite(int ordine, uint64_t massimeVicine) {
     Maschera tutti{0, 0};
     for (uint32_t i = 0; i < v_.Quante(); ++i) tutti[0] |= v_.Numeri(i)[0], tutti[1] |= v_.Numeri(i)[1];
     std::vector<int> numeri;
@@ -88,7 +89,7 @@ bool RicercaPesi::CostruisciOrbite(int ordine) {
             segno[p] = o;
             vicine_.push_back(p);
         });
-        if (vicine_.size() > kMassimeVicine) return false;
+        if (vicine_.size() > massimeVicine) return false;
         inizioVicine_.push_back(vicine_.size());
     }
     return true;

@@ -36,22 +36,24 @@ class RicercaPesi : public Ricerca {
 public:
     // The search over the orbits of a rotation of order `ordine` of the numbers
     // the input uses: a kept orbit is `ordine` columns. Valida() is false when
-    // the input is not closed under the rotation or an orbit cannot be covered.
-    RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, uint64_t seme);
+    // the input is not closed under the rotation, an orbit cannot be covered,
+    // or the orbit lists would pass `massimeVicine` entries (4 bytes each).
+    RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, uint64_t seme,
+                uint64_t massimeVicine = kMassimeVicine);
     bool Valida() const { return valida_; }
 
     bool Passo() override;
     const std::vector<uint32_t>& Migliore() const override { return migliore_; }
 
+    static constexpr uint64_t kMassimeVicine = 40'000'000;  // 160 MB of orbit lists
+
 private:
-    // Orbit lists beyond this many entries (4 bytes each) are not built.
-    static constexpr uint64_t kMassimeVicine = 40'000'000;
 
     template <typename F>
     void Vicini(uint32_t i, Timbri&, F&& f) const {
         for (uint64_t m = inizioVicine_[i]; m < inizioVicine_[size_t(i) + 1]; ++m) f(vicine_[m]);
     }
-    bool CostruisciOrbite(int ordine);
+    bool CostruisciOrbite(int ordine, uint64_t massimeVicine);
     void Registra();
     void Aggiungi(uint32_t c);
     void Togli(uint32_t c);

@@ -1,6 +1,7 @@
 #include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -61,6 +62,13 @@ TEST_F(FileTest, SystemFileLayoutIsByteExact) {
     EXPECT_EQ(r[246], 20);
     EXPECT_EQ(r[256], 17);
     EXPECT_EQ(r[268], 0xFF);
+    // Everything not set above is zero, the blank second record whole: 17
+    // bytes of header (signature 7, class, reduction, two picked numbers 2
+    // each, panel 1: 2 + 1 + 1) and 21 of the first record (type, three marks
+    // 2 each, Parametro 2, MinPunti 4, MaxPunti 4, QuadroRec, ContaSuperate,
+    // EsitoGruppo 2).
+    EXPECT_EQ(std::count_if(b.begin(), b.end(), [](uint8_t x) { return x != 0; }), 17 + 21);
+    EXPECT_TRUE(std::all_of(b.begin() + 587, b.end(), [](uint8_t x) { return x == 0; }));
     const FileSistema letto = DecodificaSistema(b.data(), b.size());
     EXPECT_EQ(CodificaSistema(letto), b);
     EXPECT_EQ(letto.condizioni[0], c);

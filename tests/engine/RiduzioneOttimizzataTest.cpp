@@ -199,6 +199,15 @@ TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
                 })) << c.n << " " << c.ordine << " passo " << passo;
         }
     }
+    // Orbit lists longer than the limit are not built. 1..12 in class 6 has
+    // 924 columns in 312 orbits of a rotation by 4 (306 of three columns, 6
+    // fixed): the lists hold at most 312 * 312 entries, and more than 312,
+    // since each orbit is near itself and others.
+    std::vector<int> dodici;
+    for (int x = 1; x <= 12; ++x) dodici.push_back(x);
+    const auto integrali = std::make_shared<const riduzione::Vicinato>(ColonneIntegrali(dodici, 6), 6, 4);
+    EXPECT_TRUE(riduzione::RicercaPesi(integrali, 3, 7, 312 * 312).Valida());
+    EXPECT_FALSE(riduzione::RicercaPesi(integrali, 3, 7, 312).Valida());
     // Random columns are not closed under any rotation.
     const std::vector<Colonna> casuali = Casuali(31, 200, 12, 6);
     riduzione::RicercaPesi aperta(std::make_shared<const riduzione::Vicinato>(casuali, 6, 3), 3, 1);
