@@ -1,7 +1,7 @@
 // Validation, the click rule, the values each type offers, the limits of
 // Ampiezza/Baricentro and the filling from a host's parameter text.
-// Mutation testing leaves unchecked the statistics window's stretch between
-// table and chart, and a pick copied from number 0, which never exists.
+// Mutation testing leaves unchecked a pick copied from number 0, which never
+// exists.
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>

@@ -1,8 +1,5 @@
 // Entering, editing and cancelling a condition of every type, and the texts
 // it leaves in the grid.
-// The editors' Pulsante(i) handle is reached by the product for button 0
-// only; the other buttons are pressed by name, so a change in its upper bound
-// is nothing a user can meet.
 #include <QCheckBox>
 #include <QTest>
 #include <QLabel>
@@ -141,6 +138,10 @@ TEST(EditoriCondizione, ITestiScrittiSiDecodificanoNelRecordAtteso) {
         auto e = Editore(tipo, dialoghi);
         caso.azione(*e);
         griglia.colonne.push_back(Testi(e->GetParametri(), tipo));
+        // The host reaches the three buttons by index, and nothing else.
+        EXPECT_EQ(e->Pulsante(2)->objectName(), "XPButton1_2");
+        EXPECT_EQ(e->Pulsante(3), nullptr);
+        EXPECT_EQ(e->Pulsante(-1), nullptr);
     }
     const auto c = combi::LeggiCondizioni(griglia).condizioni;
     ASSERT_EQ(c.size(), 5u);

@@ -14,6 +14,7 @@
 #include <QProgressBar>
 #include <QtCharts/QCategoryAxis>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QTableWidget>
 #include <QTest>
 
@@ -45,6 +46,18 @@ QString Decimali() { return QString::fromStdString(combi::SeparatoriUtente().dec
 TEST(QuadroRecuperi, ContaLeCondizioniEAbilitaSoloIQuadriUsati) {
     F_QuadroRecuperi d;
     EXPECT_EQ(d.windowTitle(), "Quadro recuperi");
+    // Before any reading every panel, the last too, shows 0 and is closed;
+    // each row holds its panel's count, Min and Max left to right.
+    d.layout()->activate();
+    for (int p = 1; p <= 20; ++p) {
+        EXPECT_EQ(d.LabRecInseriti(p)->text(), "0") << p;
+        EXPECT_FALSE(d.TxtMin(p)->isEnabled()) << p;
+        const QRect conto = d.LabRecInseriti(p)->geometry(), min = d.TxtMin(p)->geometry();
+        EXPECT_GT(min.width(), 0) << p;
+        EXPECT_EQ(min.center().y(), conto.center().y()) << p;
+        EXPECT_LT(conto.right(), min.left()) << p;
+        EXPECT_LT(min.right(), d.TxtMax(p)->geometry().left()) << p;
+    }
     d.LeggiRecuperiInseriti(Griglia({"3", " ", "7", "3", "", "25", "-2"}, {"1,2,-1", "4,5,-0"}));
     for (int p = 1; p <= 20; ++p) {
         SCOPED_TRACE(p);
@@ -141,6 +154,17 @@ TEST(Statistica, LeColonneAccettateSonoQuelleDeiValoriSpuntati) {
     ASSERT_TRUE(completata.wait(20000));
     EXPECT_EQ(anteprima->findChild<QLabel*>("LabAccettate")->text(),
               "Valori accettati (in verde): 200 colonne, 79" + Decimali() + "37 % delle integrali.");
+    // Widened, the window gives the new room to the chart: the table keeps its width.
+    auto* divisore = anteprima->findChild<QSplitter*>();
+    ASSERT_NE(divisore, nullptr);
+    anteprima->resize(900, 500);
+    anteprima->show();
+    QApplication::processEvents();
+    const int tabella = divisore->widget(0)->width(), grafico = divisore->widget(1)->width();
+    anteprima->resize(1300, 500);
+    QApplication::processEvents();
+    EXPECT_EQ(divisore->widget(0)->width(), tabella);
+    EXPECT_EQ(divisore->widget(1)->width(), grafico + 400);
 }
 
 // "Annulla" stops a count that is still running: the largest one there is,
@@ -178,6 +202,7 @@ TEST(Statistica, ScaleRotonde) {
         {0, 142506, 6, false, 50000, 0, 150000},
         {0, 5720645481903, 6, false, 2e12, 0, 6e12},
         {7, 7, 5, true, 1, 7, 8},                // one value only
+        {7, 7, 5, false, 1, 7, 8},
     };
     for (const Caso& c : casi) {
         const scala::Scala s = scala::ScalaRotonda(c.minimo, c.massimo, c.tacche, c.interi);
