@@ -32,15 +32,15 @@ F_VisualizzaColonne::F_VisualizzaColonne(const CombiFiltroA& controllo, QWidget*
 
 F_VisualizzaColonne::F_VisualizzaColonne(std::vector<combi::Colonna> colonne, const QString& titolo,
                                          QWidget* genitore)
-    : F_VisualizzaColonne(Origine{}, titolo, genitore) {
+    : F_VisualizzaColonne(OrigineElenco(std::move(colonne)), titolo, genitore) {}
+
+F_VisualizzaColonne::Origine F_VisualizzaColonne::OrigineElenco(std::vector<combi::Colonna> colonne) {
     auto elenco = std::make_shared<const std::vector<combi::Colonna>>(std::move(colonne));
-    origine_.quante = [elenco] { return int(elenco->size()); };
-    origine_.testo = [elenco](int id) {
-        if (id < 1 || size_t(id) > elenco->size()) return QString();
-        return QString::fromStdString(combi::TestoColonna((*elenco)[size_t(id) - 1], false));
-    };
-    ImpostaCursore();
-    Riempi();
+    return Origine{[elenco] { return int(elenco->size()); },
+                   [elenco](int id) {
+                       if (id < 1 || size_t(id) > elenco->size()) return QString();
+                       return QString::fromStdString(combi::TestoColonna((*elenco)[size_t(id) - 1], false));
+                   }};
 }
 
 F_VisualizzaColonne::F_VisualizzaColonne(Origine origine, const QString& titolo, QWidget* genitore)
@@ -89,7 +89,7 @@ void F_VisualizzaColonne::CostruisciFinestra() {
 
 // With fewer than two columns there is nothing to page through.
 void F_VisualizzaColonne::ImpostaCursore() {
-    const int ultima = origine_.quante ? origine_.quante() : 0;
+    const int ultima = origine_.quante();
     slider1_->setMinimum(1);
     slider1_->setMaximum(ultima < 2 ? 1 : ultima);
     slider1_->setEnabled(ultima >= 2);
@@ -109,12 +109,12 @@ void F_VisualizzaColonne::Riempi() {
     listView1_->clear();
     const int primo = slider1_->value();
     for (int id = primo; id < primo + righe; ++id) {
-        const QString numeri = origine_.testo ? origine_.testo(id) : QString();
+        const QString numeri = origine_.testo(id);
         if (numeri.isEmpty()) continue;
         auto* voce = new QTreeWidgetItem(listView1_, {QString::number(id), numeri});
         voce->setTextAlignment(0, Qt::AlignRight | Qt::AlignVCenter);
     }
-    const int quante = origine_.quante ? origine_.quante() : 0;
+    const int quante = origine_.quante();
     labPosizione_->setText(quante == 0 ? QString("Nessuna colonna")
                                        : QString("colonna %1 di %2").arg(TestoContatore(primo), TestoContatore(quante)));
 }

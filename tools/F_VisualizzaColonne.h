@@ -49,12 +49,13 @@ protected:
 
 private:
     // Where the columns come from: how many there are, and the text of column
-    // id (1-based; empty past the last).
+    // id (1-based; empty past the last). Both are always set.
     struct Origine {
         std::function<int()> quante;
         std::function<QString(int)> testo;
     };
     F_VisualizzaColonne(Origine origine, const QString& titolo, QWidget* genitore);
+    static Origine OrigineElenco(std::vector<combi::Colonna> colonne);
 
     void CostruisciFinestra();
     void ImpostaCursore();

@@ -1,5 +1,7 @@
 // "Verifica su archivio" and the settings it keeps. Writing a prize with a
-// field width of 1 instead of 0 changes nothing (a number is never shorter).
+// field width of 1 instead of 0 changes nothing (a number is never shorter);
+// nor does losing the bar's reset when a check starts, since the check's
+// first report is 0 done.
 #include <gtest/gtest.h>
 
 #include <QApplication>

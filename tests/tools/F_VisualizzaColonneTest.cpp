@@ -133,6 +133,12 @@ TEST(F_VisualizzaColonne, WheelAndKeysMoveThePageAndTheLineSaysWhere) {
     EXPECT_EQ(Righe(f), DaA(1000 - F_VisualizzaColonne::kRighe + 1, 1000));
     QTest::keyClick(f.ListView1(), Qt::Key_Home);
     EXPECT_EQ(Righe(f).front(), 1);
+    QTest::keyClick(f.ListView1(), Qt::Key_Down);
+    EXPECT_EQ(f.Slider1()->value(), 2);
+    QTest::keyClick(f.ListView1(), Qt::Key_PageDown);
+    QTest::keyClick(f.ListView1(), Qt::Key_PageUp);
+    QTest::keyClick(f.ListView1(), Qt::Key_Up);
+    EXPECT_EQ(f.Slider1()->value(), 1);
     for (int i = 0; i < 400; ++i) Rotella(f, -120);  // past the end: the last column alone
     EXPECT_EQ(Righe(f), std::vector<int>{1000});
 

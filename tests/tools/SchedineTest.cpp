@@ -2,6 +2,8 @@
 // the "P" button with nothing to print.
 // Mutation testing leaves the exact shades of the slips' colours (one unit
 // of red or blue more or less) unchecked: no reader of a slip could tell.
+// Nor can the grid's vertical centring be seen: on every slip the grid is
+// as tall as its area, so there is no room above or below to share out.
 #include <gtest/gtest.h>
 
 #include <QAction>
@@ -113,6 +115,18 @@ TEST(Schedine, PagesHeadersAndMarks) {
     for (int n = 1; n < 10; ++n) {
         EXPECT_FALSE(lotto.RettangoloCasella(prima, n).intersects(lotto.RettangoloCasella(prima, n + 1))) << n;
         EXPECT_FALSE(lotto.RettangoloCasella(prima, n).intersects(lotto.RettangoloCasella(prima, n + 10))) << n;
+    }
+    // The grid stands in the middle of the slip across, and down between the
+    // title (the top 12 % and 0.6 of the 5 % side margin) and the foot (the
+    // bottom 11 %), for the wide Lotto grid and the tall SuperEnalotto one.
+    for (const char* gioco : {"Lotto", "SuperEnalotto"}) {
+        const ImpaginaSchedine stampa(Dati(gioco, 1), Impaginazione::Schedine);
+        const QRectF s = stampa.RettangoloSchedina(QRectF(QPointF(0, 0), kA4), 1);
+        QRectF caselle = stampa.RettangoloCasella(s, 1);
+        for (int n = 2; n <= 90; ++n) caselle |= stampa.RettangoloCasella(s, n);
+        const double sopra = s.top() + s.height() * 0.12 + s.width() * 0.03, sotto = s.bottom() - s.height() * 0.11;
+        EXPECT_NEAR(caselle.center().x(), s.center().x(), 0.01) << gioco;
+        EXPECT_NEAR(caselle.center().y(), (sopra + sotto) / 2, 0.01) << gioco;
     }
     // Page 2 starts at column 7: 7 17 27 37 47 marked, the rest not.
     const QImage seconda = Pagina(lotto, 1);
