@@ -9,6 +9,7 @@
 #include "Colonna.h"
 #include "DecodificaCondizioni.h"
 #include "LetturaNumero.h"
+#include "TipiCondizione.h"
 
 namespace combi {
 namespace {
@@ -102,7 +103,7 @@ TEST(Decodifica, GridColumnsBecomeRecordsInGridOrder) {
         Testi("Vortice", "Inverso", "1"),
         Testi("Simmetrie", " Dirette ", "1"),
         Testi("Posizioni", "Casella :\r\n4", "5-40"),
-        Testi("Sequenze", "P\r\nD\r\nD", "1"),
+        Testi("Sequenze", "D\r\nP\r\nD", "1"),
         Testi("Sconosciuta", "x", "1"),
         Testi("LinkClose", "L", "2"),
         Testi("", "", ""),
@@ -129,11 +130,27 @@ TEST(Decodifica, GridColumnsBecomeRecordsInGridOrder) {
     EXPECT_EQ(s.condizioni[5].Parametro, 1);  // trimmed
     EXPECT_EQ(s.condizioni[6].Parametro, 4);
     EXPECT_EQ(s.condizioni[7].Parametro, 3);
+    // D P D: odd, even, odd, then the end mark.
+    EXPECT_EQ((std::vector<int16_t>(s.condizioni[7].Numeri.begin(), s.condizioni[7].Numeri.begin() + 4)),
+              (std::vector<int16_t>{1, 0, 1, -1}));
     EXPECT_EQ(s.condizioni[8].Tipo, kNessuna);
     EXPECT_EQ(s.condizioni[9].Numeri[2], -1);
     EXPECT_EQ(s.quadri[1], (QuadroRecupero{-1, 1, 1}));
     EXPECT_EQ(s.quadri[2], (QuadroRecupero{0, -1, -1}));
     EXPECT_EQ(s.quadri[3], (QuadroRecupero{0, 7, 0}));  // short line: missing fields 0
+}
+
+// Type codes from a hand-made file may be anything: outside 1..18 a code has
+// no name and is judged neither on a list nor on a range.
+TEST(Decodifica, TypeCodesOutsideTheTable) {
+    for (int codice : {-1, 0, 19, 32767}) {
+        EXPECT_EQ(NomeTipoCondizione(codice), "") << codice;
+        EXPECT_FALSE(GiudicataSuElenco(codice) || GiudicataSuIntervallo(codice)) << codice;
+        EXPECT_EQ(DescrizioneDelTipo(codice) == nullptr, codice != 0) << codice;
+    }
+    EXPECT_EQ(NomeTipoCondizione(18), "Paralleli");
+    EXPECT_TRUE(GiudicataSuElenco(18));
+    EXPECT_TRUE(GiudicataSuIntervallo(kPeso));
 }
 
 TEST(Decodifica, EmptyGridGivesOneRecordThatAlwaysPasses) {

@@ -163,8 +163,9 @@ TEST(RiduzioneOttimizzata, EveryBestOfTheSearchCovers) {
 // rotation, or an order that does not divide n, is refused.
 TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
     struct Caso { int n; int classe; int punti; int ordine; bool valida; };
+    // At 3 points in class 3 a column covers only itself: every orbit is kept.
     for (const Caso& c : {Caso{12, 6, 4, 3, true}, Caso{12, 6, 3, 6, true}, Caso{10, 5, 3, 2, true},
-                          Caso{12, 6, 4, 5, false}}) {
+                          Caso{7, 3, 3, 7, true}, Caso{12, 6, 4, 5, false}}) {
         std::vector<int> numeri;
         for (int x = 1; x <= c.n; ++x) numeri.push_back(x);
         const std::vector<Colonna> v = ColonneIntegrali(numeri, c.classe);
@@ -269,6 +270,19 @@ TEST(RiduzioneOttimizzata, StopSmallSetsAndRefusals) {
     EXPECT_TRUE(b.interrotto);
     EXPECT_LE(b.colonne.size(), avido.size());
     EXPECT_TRUE(CercaBuchi(b.colonne, v, 3, muto).empty());
+    // Without a step limit the clock ends the search: its bar starts low and
+    // fills up with the time (the last report before the final 0).
+    opzioni.secondi = 0.5;
+    Registro aTempo;
+    RiduciColonneOttimizzate(v, 3, opzioni, aTempo);
+    const auto fase = std::find(aTempo.eventi.begin(), aTempo.eventi.end(), std::string("F") + kFaseOttimizzazione);
+    std::vector<int> percento;
+    for (auto e = fase; e != aTempo.eventi.end(); ++e)
+        if ((*e)[0] == 'P') percento.push_back(std::stoi(e->substr(1)));
+    ASSERT_GE(percento.size(), 3u);
+    EXPECT_LT(percento.front(), 50);
+    EXPECT_GE(percento[percento.size() - 2], 90);
+    opzioni.secondi = 1e6;
     // Nothing to search: no column, or one.
     Registro r;
     EXPECT_TRUE(RiduciColonneOttimizzate({}, 3, opzioni, r).colonne.empty());
