@@ -5,6 +5,8 @@
 #include <cmath>
 #include <tuple>
 
+#include "SceltaACaso.h"
+
 namespace combi::riduzione {
 
 RicercaLocale::RicercaLocale(const std::vector<Colonna>& colonne, int classe, int punti,
@@ -59,33 +61,15 @@ int64_t RicercaLocale::Perdita(uint32_t k) {
 // A kept column whose removal uncovers least, ties at random: the search
 // then starts the smaller size as close to covering as one removal allows.
 void RicercaLocale::TogliMenoUtile() {
-    uint32_t scelta = tenute_[0];
-    int64_t minima = INT64_MAX;
-    uint64_t pari = 0;
-    for (uint32_t k : tenute_) {
-        const int64_t p = Perdita(k);
-        if (p < minima) {
-            scelta = k, minima = p, pari = 1;
-        } else if (p == minima && Caso() % ++pari == 0) {
-            scelta = k;
-        }
-    }
-    Togli(scelta);
+    SceltaACaso<int64_t> scelta(caso_);
+    for (uint32_t k : tenute_) scelta.Proponi(k, Perdita(k));
+    Togli(scelta.Scelta());
 }
 
 uint32_t RicercaLocale::PiuVicinaTenuta(uint32_t u) {
-    uint32_t scelta = tenute_[0];
-    int vicinanza = -1;
-    uint64_t pari = 0;
-    for (uint32_t k : tenute_) {
-        const int c = v_.Comuni(k, u);
-        if (c > vicinanza) {
-            scelta = k, vicinanza = c, pari = 1;
-        } else if (c == vicinanza && Caso() % ++pari == 0) {
-            scelta = k;
-        }
-    }
-    return scelta;
+    SceltaACaso<int> scelta(caso_);
+    for (uint32_t k : tenute_) scelta.Proponi(k, -v_.Comuni(k, u));
+    return scelta.Scelta();
 }
 
 // The i-th set bit of m (i from 0).
@@ -181,22 +165,17 @@ uint32_t RicercaLocale::MigliorSostituta(uint32_t u, uint32_t tolta, int64_t& va
         if (coperture_[i] == 1) soloDaTolta_.push_back(i);
     });
     CambiVerso(u, tolta);
-    uint32_t scelta = candidate_[0];
-    variazione = INT64_MAX;
-    uint64_t pari = 0;
+    SceltaACaso<int64_t> scelta(caso_);
     for (uint32_t c : candidate_) {
         int64_t d = 0;
         for (uint32_t i : soloDaTolta_)
             if (!v_.Copre(c, i)) d += peso_[i];
         for (uint32_t i : scoperte_)
             if (v_.Copre(c, i)) d -= peso_[i];
-        if (d < variazione) {
-            scelta = c, variazione = d, pari = 1;
-        } else if (d == variazione && Caso() % ++pari == 0) {
-            scelta = c;
-        }
+        scelta.Proponi(c, d);
     }
-    return scelta;
+    variazione = scelta.Minima();
+    return scelta.Scelta();
 }
 
 bool RicercaLocale::Accetta(int64_t variazione) {
