@@ -106,7 +106,7 @@ TEST_F(GaranziaCliTest, WrongArgumentsGiveAMessageAndExitCode) {
          "non entrambi"},
         {{"garanzia", P("buono.col"), "--punti", "3", "--numeri", "0-9", "--classe", "6"}, 2, "da 1 a 90"},
         {{"garanzia", P("buono.col"), "--punti", "3", "--numeri", "9-1", "--classe", "6"}, 2, "al contrario"},
-        {{"garanzia", P("buono.col"), "--punti", "3", "--numeri", "2-9,2", "--classe", "6"}, 2, "ripetuto"},
+        {{"garanzia", P("buono.col"), "--punti", "3", "--numeri", "2-9,9", "--classe", "6"}, 2, "ripetuto"},
         {{"garanzia", P("buono.col"), "--punti", "3", "--numeri", "1-5", "--classe", "6"}, 2, "--classe deve"},
         {{"garanzia", P("buono.col"), "--punti", "3", "--numeri", "1-9", "--classe", "6", "--estratti", "3"}, 2,
          "solo con --tabella"},
