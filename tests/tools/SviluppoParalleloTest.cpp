@@ -151,6 +151,23 @@ TEST(SviluppoParallelo, AFailingWorkerIsNamedAndNothingIsKept) {
     }
 }
 
+// Lines a worker prints that are no report (a library's warning) are passed
+// over, however many come together before the report.
+TEST(SviluppoParallelo, StrayLinesOfAWorkerArePassedOver) {
+    CartellaTempProvvisoria temp;
+    Banco b;
+    SistemaDiProva(b);
+    b.c.setNumeroThreadsSviluppo(3);
+    const QString rumoroso =
+        QString("r=$(\"%1\" \"$@\"); printf 'avviso\\nrumore\\n%s\\n' \"$r\"; exit 0").arg(CF_PROGRAMMA_CLI);
+    SviluppoParallelo parallelo(b.c, b.dialoghi, LavoratoreDifettoso(temp, rumoroso));
+    parallelo.Avvia();
+    ASSERT_TRUE(AttendiFine(parallelo));
+    ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << b.dialoghi.Testi().join("|").toStdString();
+    EXPECT_EQ(b.dialoghi.boxes[0].tipo, "informazione");
+    EXPECT_GT(b.c.QuantitaColonne(), 0);
+}
+
 TEST(SviluppoParallelo, StopEndsEveryWorker) {
     CartellaTempProvvisoria temp;
     Banco b;
