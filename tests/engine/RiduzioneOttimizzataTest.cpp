@@ -306,6 +306,12 @@ TEST(RiduzioneOttimizzata, StopSmallSetsAndRefusals) {
     EXPECT_LT(percento.front(), 50);
     EXPECT_GE(percento[percento.size() - 2], 90);
     opzioni.secondi = 1e6;
+    // The middle column of 12 23 34 covers both others at 1 point, but the
+    // plain reduction keeps 12 and 34: the search goes down to 23 alone.
+    const std::vector<Colonna> catena = {Col({1, 2}), Col({2, 3}), Col({3, 4})};
+    riduzione::RicercaLocale daDue(catena, 2, 1, {0, 2}, 1);
+    for (int passo = 0; passo < 200 && daDue.Migliore().size() > 1; ++passo) daDue.Passo();
+    EXPECT_EQ(daDue.Migliore(), std::vector<uint32_t>{1});
     // Nothing to search: no column, or one.
     Registro r;
     EXPECT_TRUE(RiduciColonneOttimizzate({}, 3, opzioni, r).colonne.empty());
