@@ -106,6 +106,21 @@ TEST(Sviluppo, StopIsHonouredAtTheNextMultipleOfTenThousand) {
     }
 }
 
+// From 64 steps on one thread judges pieces of several steps ahead of the
+// stop: a stop inside a piece counts the conditions over the steps up to it
+// only (45 numbers in class 5, 1,221,759 columns, make pieces of 3 steps).
+TEST(Sviluppo, StopInsideAPieceOfSeveralSteps) {
+    test::GeneratoreSistemi gen(77);
+    for (int caso = 0; caso < 3; ++caso) {
+        const ParametriSviluppo p = gen.SistemaDi(5, 45);
+        for (uint64_t ferma : {10000u, 20000u, 30000u}) {
+            Osservatore rif(ferma), veloce(ferma);
+            ExpectStessoRisultato(SviluppaSistemaRiferimento(p, rif), SviluppaSistema(p, veloce, {.thread = 1, .quota = {}}),
+                                  "case " + std::to_string(caso) + " stop " + std::to_string(ferma));
+        }
+    }
+}
+
 // A failure while the worker threads judge (here the host's progress
 // callback) reaches the caller as the same exception: no thread is left
 // running, nothing hangs, the process is not ended.
