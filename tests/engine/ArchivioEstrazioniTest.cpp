@@ -1,3 +1,5 @@
+// The archive of draws. A draw's default wheel is overwritten by every line
+// read, so its initial value is nothing a user meets.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// Counts of columns. (n - k) > 1 against (n - k) >= 1 before the factorial
+// of n - k is the same value: the factorial of 1 is 1.
 #include <gtest/gtest.h>
 
 #include <algorithm>

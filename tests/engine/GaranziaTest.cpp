@@ -1,3 +1,5 @@
+// The guarantee check, the holes and the table. The table search's running
+// maximum starts from whatever it is given: each row sets it before use.
 #include <gtest/gtest.h>
 
 #include "ColonnaDiProva.h"

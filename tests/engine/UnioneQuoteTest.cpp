@@ -1,3 +1,6 @@
+// Joining the workers' shares. How many columns are handed on at a time and
+// which share's condition table is copied before the counts are written in
+// change nothing a user sees (the counts are summed over every share).
 #include <gtest/gtest.h>
 
 #include "Conteggi.h"
