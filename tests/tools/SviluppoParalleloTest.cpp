@@ -1,6 +1,7 @@
 // The parallel development with real worker processes: the merged result
 // equals the development inside the control, and a failing or stopped
-// worker ends the run without a result.
+// worker ends the run without a result. A slot more for the workers' file
+// names stays unused.
 
 #include <gtest/gtest.h>
 
