@@ -26,6 +26,7 @@ public:
         posizione_[i] = -1;
     }
 
+    bool Contiene(uint32_t i) const { return posizione_[i] >= 0; }
     const std::vector<uint32_t>& Membri() const { return membri_; }
     uint32_t operator[](size_t p) const { return membri_[p]; }
     size_t size() const { return membri_.size(); }

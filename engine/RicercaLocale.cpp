@@ -244,13 +244,24 @@ bool RicercaLocale::Passo() {
     const uint32_t aggiunta = pesata_ ? MigliorSostituta(u, tolta, variazione) : Sostituta(u, tolta);
     if (!pesata_) variazione = Variazione(tolta, aggiunta);
     if (Accetta(variazione)) {
+        const int64_t prima = int64_t(scoperte_.size());
         Togli(tolta);
         Aggiungi(aggiunta);
+        stimeSbagliate_ += !pesata_ && int64_t(scoperte_.size()) - prima != variazione;
     } else if (pesata_) {
         for (uint32_t i : scoperte_) ++peso_[i];
     }
     Raffredda();
     return false;
+}
+
+bool RicercaLocale::Coerente() const {
+    for (uint32_t i = 0; i < v_.Quante(); ++i) {
+        uint32_t coprono = 0;
+        for (uint32_t k : tenute_) coprono += v_.Copre(k, i);
+        if (coprono != coperture_[i] || scoperte_.Contiene(i) != (coprono == 0)) return false;
+    }
+    return stimeSbagliate_ == 0;
 }
 
 }  // namespace combi::riduzione

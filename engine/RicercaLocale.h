@@ -65,6 +65,13 @@ public:
     bool Passo() override;
     const std::vector<uint32_t>& Migliore() const override { return migliore_; }
 
+    // The state recounted from the kept columns alone (how many cover each
+    // column, which are uncovered) equals the one the steps keep up to date,
+    // and every change the plain search took moved the uncovered count by
+    // the cost it was judged by. For the tests: a step's bookkeeping is where
+    // a fault would hide, since a wrong count only makes the search worse.
+    bool Coerente() const;
+
 private:
     void Inizia(const std::vector<uint32_t>& iniziali);
     void Aggiungi(uint32_t c);
@@ -115,6 +122,7 @@ private:
     uint64_t passiStadio_ = 1000;
     uint64_t passoNelloStadio_ = 0;
     uint32_t stadiSenzaProgresso_ = 0;
+    uint64_t stimeSbagliate_ = 0;           // taken plain changes whose cost was misjudged
     size_t minimoScoperte_ = SIZE_MAX;      // the best cost at the current size
 
     std::vector<uint32_t> migliore_;

@@ -1,6 +1,7 @@
 #include "RicercaPesi.h"
 
 #include <algorithm>
+#include <span>
 
 namespace combi::riduzione {
 
@@ -211,6 +212,26 @@ bool RicercaPesi::Passo() {
     ultimaAggiunta_ = c;
     Pesa();
     return meglio;
+}
+
+bool RicercaPesi::Coerente() const {
+    const auto Vicine = [&](uint32_t o) {
+        return std::span(vicine_).subspan(inizioVicine_[o], inizioVicine_[size_t(o) + 1] - inizioVicine_[o]);
+    };
+    std::vector<uint32_t> coperture(unita_, 0), xorTenute(unita_, 0);
+    for (uint32_t k : tenute_)
+        for (uint32_t e : Vicine(k)) ++coperture[e], xorTenute[e] ^= k;
+    for (uint32_t o = 0; o < unita_; ++o) {
+        if (coperture[o] != coperture_[o] || xorTenute[o] != xorTenute_[o]) return false;
+        if (scoperte_.Contiene(o) != (coperture[o] == 0)) return false;
+        int64_t punteggio = 0;
+        for (uint32_t e : Vicine(o)) {
+            if (tenute_.Contiene(o) && coperture[e] == 1) punteggio -= peso_[e];
+            if (!tenute_.Contiene(o) && coperture[e] == 0) punteggio += peso_[e];
+        }
+        if (punteggio != punteggio_[o]) return false;
+    }
+    return true;
 }
 
 }  // namespace combi::riduzione

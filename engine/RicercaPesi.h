@@ -45,6 +45,13 @@ public:
     bool Passo() override;
     const std::vector<uint32_t>& Migliore() const override { return migliore_; }
 
+    // The state recounted from the kept orbits alone equals the one the steps
+    // keep up to date: how many kept orbits cover each orbit and which (for
+    // the lone ones), the uncovered set, and every score (a kept orbit's
+    // loss, the weight only it covers, as a negative; another's gain, the
+    // uncovered weight it would cover). For the tests, as RicercaLocale's.
+    bool Coerente() const;
+
     static constexpr uint64_t kMassimeVicine = 40'000'000;  // 160 MB of orbit lists
 
 private:

@@ -139,9 +139,11 @@ TEST(RiduzioneOttimizzata, IntegralDesignsEndBelowTheGreedySize) {
     }
 }
 
-// The search itself: every set it reports as a new best covers the whole
-// input (checked pair by pair here, on all the numbers of the class), and the
-// bests shrink by at least one column each time.
+// The search itself, plain and weighted: every set it reports as a new best
+// covers the whole input (checked pair by pair here, on all the numbers of
+// the class), the bests shrink by at least one column each time, and every
+// hundred steps the state it keeps up to date equals the one recounted from
+// its kept columns.
 TEST(RiduzioneOttimizzata, EveryBestOfTheSearchCovers) {
     struct Caso { uint32_t seme; int pool; int classe; int punti; };
     for (const Caso& c : {Caso{21, 12, 6, 3}, Caso{22, 13, 5, 3}, Caso{23, 15, 8, 5}, Caso{24, 10, 3, 2}}) {
@@ -154,19 +156,25 @@ TEST(RiduzioneOttimizzata, EveryBestOfTheSearchCovers) {
         };
         std::vector<uint32_t> tutte(v.size());
         for (uint32_t i = 0; i < tutte.size(); ++i) tutte[i] = i;
-        riduzione::RicercaLocale ricerca(v, c.classe, c.punti, tutte, c.seme);
-        size_t precedente = ricerca.Migliore().size() + 1;
-        for (int passo = 0; passo < 4000; ++passo) {
-            if (passo > 0 && !ricerca.Passo()) continue;
-            const std::vector<uint32_t>& m = ricerca.Migliore();
-            ASSERT_LT(m.size(), precedente);
-            precedente = m.size();
-            ASSERT_TRUE(std::is_sorted(m.begin(), m.end()));
-            for (const Colonna& x : v)
-                ASSERT_TRUE(std::any_of(m.begin(), m.end(), [&](uint32_t k) { return Comuni(x, v[k]) >= c.punti; }))
-                    << "seme " << c.seme << " passo " << passo;
+        const auto vicinato = std::make_shared<const riduzione::Vicinato>(v, c.classe, c.punti);
+        for (bool pesata : {false, true}) {
+            SCOPED_TRACE("seme " + std::to_string(c.seme) + (pesata ? " pesata" : ""));
+            riduzione::RicercaLocale ricerca(vicinato, tutte, c.seme, pesata);
+            size_t precedente = ricerca.Migliore().size() + 1;
+            for (int passo = 0; passo < 4000; ++passo) {
+                const bool meglio = passo == 0 || ricerca.Passo();
+                if (passo % 100 == 0) ASSERT_TRUE(ricerca.Coerente()) << "passo " << passo;
+                if (!meglio) continue;
+                const std::vector<uint32_t>& m = ricerca.Migliore();
+                ASSERT_LT(m.size(), precedente);
+                precedente = m.size();
+                ASSERT_TRUE(std::is_sorted(m.begin(), m.end()));
+                for (const Colonna& x : v)
+                    ASSERT_TRUE(std::any_of(m.begin(), m.end(), [&](uint32_t k) { return Comuni(x, v[k]) >= c.punti; }))
+                        << "passo " << passo;
+            }
+            EXPECT_LT(precedente, v.size() / 4);
         }
-        EXPECT_LT(precedente, v.size() / 4);
     }
 }
 
@@ -219,7 +227,9 @@ TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
             return r;
         };
         for (int passo = 0; passo < 3000; ++passo) {
-            if (passo > 0 && !ricerca.Passo()) continue;
+            const bool meglio = passo == 0 || ricerca.Passo();
+            if (passo % 100 == 0) ASSERT_TRUE(ricerca.Coerente()) << c.n << " " << c.ordine << " passo " << passo;
+            if (!meglio) continue;
             const std::vector<uint32_t>& m = ricerca.Migliore();
             ASSERT_TRUE(std::is_sorted(m.begin(), m.end()));
             ASSERT_EQ(m.size() % size_t(c.ordine), 0u);
@@ -306,7 +316,7 @@ TEST(RiduzioneOttimizzata, StopSmallSetsAndRefusals) {
     EXPECT_TRUE(CercaBuchi(b.colonne, v, 3, muto).empty());
     // Without a step limit the clock ends the search: its bar starts low and
     // fills up with the time (the last report before the final 0).
-    opzioni.secondi = 0.5;
+    opzioni.secondi = 1;
     Registro aTempo;
     RiduciColonneOttimizzate(v, 3, opzioni, aTempo);
     const auto fase = std::find(aTempo.eventi.begin(), aTempo.eventi.end(), std::string("F") + kFaseOttimizzazione);
