@@ -1,14 +1,14 @@
 // The optimising reduction: every set it hands out covers its input and is
-// never larger than the greedy one; the searches' parts against worked
-// examples. Mutation testing leaves alive changes to the searches' tuning
-// that only move where a search walks, never what it may hand out: how many
-// one-number changes are tried before the walk over u's coverers, the
-// counter a restart starts from, the cost a plain step is judged by (the
-// weighted search beside it, and the final check, keep the result), how
-// many searches run side by side, which orbit stands in when none may enter,
-// and the default seed (the clock decides a timed run anyway). The
-// neighbourhood's mask read one word before its start reads zeros in a
-// release build; the AddressSanitizer run of scripts/test.sh is where it shows.
+// never larger than the greedy one; the searches' bookkeeping against a
+// recount; their parts against worked examples. Mutation testing leaves
+// alive changes to the searches' tuning that only move where a search walks,
+// never what it may hand out: how many one-number changes are tried before
+// the walk over u's coverers, whether an input column found at index 0 is
+// taken, the counters a stage or a restart starts from, how many searches
+// run side by side, which orbit stands in when none may enter, and the
+// default seed (the clock decides a timed run anyway). A mask read one word
+// before its start reads zeros in a release build; the AddressSanitizer run
+// of scripts/test.sh is where it shows.
 #include <gtest/gtest.h>
 
 #include "ColonnaDiProva.h"
