@@ -19,6 +19,7 @@
 
 #include "Errore.h"
 #include "Garanzia.h"
+#include "RicercaAlternata.h"
 #include "RicercaLocale.h"
 #include "RicercaPesi.h"
 #include "RiduzioneOttimizzata.h"
@@ -253,6 +254,13 @@ TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
     const auto integrali = std::make_shared<const riduzione::Vicinato>(ColonneIntegrali(dodici, 6), 6, 4);
     EXPECT_TRUE(riduzione::RicercaPesi(integrali, 3, 7, 312 * 312).Valida());
     EXPECT_FALSE(riduzione::RicercaPesi(integrali, 3, 7, 312).Valida());
+    // The alternating search starts from the best of its orbit searches:
+    // 1..12 in class 6 at 3 points is covered by 1-6 and 7-12, one orbit of
+    // the rotation by 6, found before any step.
+    std::vector<uint32_t> tutte(924);
+    for (uint32_t i = 0; i < tutte.size(); ++i) tutte[i] = i;
+    const auto a3 = std::make_shared<const riduzione::Vicinato>(ColonneIntegrali(dodici, 6), 6, 3);
+    EXPECT_EQ(riduzione::RicercaAlternata(a3, tutte, 1).Migliore().size(), 2u);
     // Random columns are not closed under any rotation.
     const std::vector<Colonna> casuali = Casuali(31, 200, 12, 6);
     riduzione::RicercaPesi aperta(std::make_shared<const riduzione::Vicinato>(casuali, 6, 3), 3, 1);
