@@ -1,5 +1,6 @@
 // The measures of one column. A direction other than 1 is inverse, so the
-// public inverse forms passing 3 instead of 2 give the same values.
+// public inverse forms passing 3 instead of 2 give the same values; and the
+// range of a class-1 column is 0 whether the guard stops at class 1 or 2.
 #include <gtest/gtest.h>
 
 #include <array>

@@ -1,3 +1,5 @@
+// The winnings check. Trimming the blanks after the drawn numbers could be
+// lost without a user noticing: the numbers are split on blanks anyway.
 #include <gtest/gtest.h>
 
 #include "ColonnaDiProva.h"
