@@ -44,6 +44,10 @@ TEST(StatiPannello, AGameChosenDuringARunIsAppliedWhenItEnds) {
         ASSERT_EQ(occupato.size(), 2);
         EXPECT_TRUE(occupato[0][0].toBool());
         EXPECT_FALSE(occupato[1][0].toBool());
+        // Applied once: the end of a later run leaves the game alone.
+        b.c.CmbTipoGioco()->setCurrentText("10ELotto");
+        b.c.GestSviluppo();
+        EXPECT_EQ(b.c.CmbTipoGioco()->currentText(), "10ELotto");
     }
 }
 
@@ -79,6 +83,9 @@ TEST(StatiPannello, AnEmptyColumnBetweenConditionsIsMarkedAndAskedAbout) {
     b.c.GestSviluppo();
     ASSERT_EQ(b.dialoghi.boxes.size(), 1u);
     EXPECT_TRUE(b.dialoghi.boxes[0].testo.startsWith("Fine sviluppo"));
+    // The name alone cleared: the column is empty again, and marked.
+    g->ImpostaTesto(1, 2, "");
+    EXPECT_EQ(g->item(1, 2)->background().color(), GrigliaCondizioni::ColoreColonnaVuota());
 }
 
 // Closing with unsaved changes: "Salva" saves and lets the window close,
