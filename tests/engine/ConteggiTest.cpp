@@ -1,5 +1,7 @@
-// Counts of columns. (n - k) > 1 against (n - k) >= 1 before the factorial
-// of n - k is the same value: the factorial of 1 is 1.
+// Counts of columns and the masks of numbers. (n - k) > 1 against
+// (n - k) >= 1 before the factorial of n - k is the same value: the
+// factorial of 1 is 1. Numbers start at 1, so bit 0 of a mask is never set;
+// for such a mask w & (w - 2) drops the lowest bit just as w & (w - 1) does.
 #include <gtest/gtest.h>
 
 #include <algorithm>
