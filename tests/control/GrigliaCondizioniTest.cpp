@@ -1,13 +1,16 @@
 // The conditions grid. Scanning for the first free column down to column 0
 // instead of 1 changes nothing: column 0 holds the heading "Condizione" and
-// is never free. Likewise a combo's exact-text search running one index past
+// is never free; it is also hidden, so the empty-column mark reaching it
+// is never seen. Likewise a combo's exact-text search running one index past
 // its items (UtilitaSchermo) meets an empty text no caller asks for, a cell
-// asked for one column past the grid is missing either way, and the number
-// grid's spacing of 2 pixels against 1 is nothing a user can tell.
+// asked for one column past the grid is missing either way (the table has
+// none there), a width step of 0 is never asked for, and the number grid's
+// spacing and button sizes one pixel apart are nothing a user can tell.
 #include <gtest/gtest.h>
 
 #include <QLabel>
 #include <QListWidget>
+#include <QScrollBar>
 
 #include "GrigliaCondizioni.h"
 #include "TestiGrigliaQt.h"
@@ -29,7 +32,11 @@ QStringList Nomi(const GrigliaCondizioni& g, int fino) {
 TEST(GrigliaCondizioni, LayoutShapesAnEmptyGrid) {
     GrigliaCondizioni g;
     Riempi(g, {1, 2});
+    g.resize(600, 400);
+    g.show();
+    g.horizontalScrollBar()->setValue(20);  // the user had scrolled far right
     g.LayOut();
+    EXPECT_EQ(g.horizontalScrollBar()->value(), 0) << "a new system starts from its first condition";
     EXPECT_EQ(g.rowCount(), 6);
     EXPECT_EQ(g.columnCount(), 201);
     EXPECT_EQ(g.Testo(1, 0), "Condizione");
