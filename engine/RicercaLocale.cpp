@@ -244,15 +244,23 @@ bool RicercaLocale::Passo() {
     const uint32_t aggiunta = pesata_ ? MigliorSostituta(u, tolta, variazione) : Sostituta(u, tolta);
     if (!pesata_) variazione = Variazione(tolta, aggiunta);
     if (Accetta(variazione)) {
-        const int64_t prima = int64_t(scoperte_.size());
+        const int64_t prima = Costo();
         Togli(tolta);
         Aggiungi(aggiunta);
-        stimeSbagliate_ += !pesata_ && int64_t(scoperte_.size()) - prima != variazione;
+        stimeSbagliate_ += Costo() - prima != variazione;
     } else if (pesata_) {
         for (uint32_t i : scoperte_) ++peso_[i];
     }
     Raffredda();
     return false;
+}
+
+// What the search lowers: the uncovered columns, counted or weighed.
+int64_t RicercaLocale::Costo() const {
+    if (!pesata_) return int64_t(scoperte_.size());
+    int64_t peso = 0;
+    for (uint32_t i : scoperte_) peso += peso_[i];
+    return peso;
 }
 
 bool RicercaLocale::Coerente() const {

@@ -67,8 +67,8 @@ public:
 
     // The state recounted from the kept columns alone (how many cover each
     // column, which are uncovered) equals the one the steps keep up to date,
-    // and every change the plain search took moved the uncovered count by
-    // the cost it was judged by. For the tests: a step's bookkeeping is where
+    // and every change the search took moved its cost (the uncovered count,
+    // or weight) by the amount it was judged by. For the tests: a step's bookkeeping is where
     // a fault would hide, since a wrong count only makes the search worse.
     bool Coerente() const;
 
@@ -84,6 +84,7 @@ private:
     uint32_t MigliorSostituta(uint32_t u, uint32_t tolta, int64_t& variazione);
     void CambiVerso(uint32_t u, uint32_t tolta);
     int64_t Variazione(uint32_t tolta, uint32_t aggiunta);
+    int64_t Costo() const;
     uint64_t Caso() { return caso_(); }
     bool Accetta(int64_t variazione);
     void Raffredda();
@@ -122,7 +123,7 @@ private:
     uint64_t passiStadio_ = 1000;
     uint64_t passoNelloStadio_ = 0;
     uint32_t stadiSenzaProgresso_ = 0;
-    uint64_t stimeSbagliate_ = 0;           // taken plain changes whose cost was misjudged
+    uint64_t stimeSbagliate_ = 0;           // taken changes whose cost was misjudged
     size_t minimoScoperte_ = SIZE_MAX;      // the best cost at the current size
 
     std::vector<uint32_t> migliore_;

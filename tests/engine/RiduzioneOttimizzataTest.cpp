@@ -264,6 +264,14 @@ TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
     for (uint32_t i = 0; i < tutte.size(); ++i) tutte[i] = i;
     const auto a3 = std::make_shared<const riduzione::Vicinato>(ColonneIntegrali(dodici, 6), 6, 3);
     EXPECT_EQ(riduzione::RicercaAlternata(a3, tutte, 1).Migliore().size(), 2u);
+    // The numbers in use may straddle 64, where a mask's second word starts:
+    // 60..71 in class 6 at 3 points, its halves one orbit of the rotation by 6.
+    std::vector<int> alti;
+    for (int x = 60; x <= 71; ++x) alti.push_back(x);
+    riduzione::RicercaPesi aCavallo(
+        std::make_shared<const riduzione::Vicinato>(ColonneIntegrali(alti, 6), 6, 3), 2, 1);
+    ASSERT_TRUE(aCavallo.Valida());
+    EXPECT_EQ(aCavallo.Migliore().size(), 2u);
     // Random columns are not closed under any rotation.
     const std::vector<Colonna> casuali = Casuali(31, 200, 12, 6);
     riduzione::RicercaPesi aperta(std::make_shared<const riduzione::Vicinato>(casuali, 6, 3), 3, 1);
