@@ -15,7 +15,7 @@ TEST(ScritturaCondizioni, TextsOfEveryTypeAsTheEditorsWriteThem) {
         {"", "LinkClose", "L\r\ni\r\nn\r\nk\r\nC\r\nl\r\no\r\ns\r\ne", "2-3", "", ""},
         {"", "Punti Col.", "01-05-12-33-\r\n45", "0-2", "1", "3"},
         {"", "Pari-Dispari", "Dispari", "1", "", ""},
-        {"", "Peso", "Caselle :\r\n1-3", "10-25", "-", ""},
+        {"", "Peso", "Caselle :\r\n1-3-20", "10-25", "-", ""},
         {"", "Resto", "Resto a : 3", "0-2", "1", "2"},
         {"", "Ampiezza", "A\r\nm\r\np\r\ni\r\ne\r\nz\r\nz\r\na", "20-60", "10-19", "1"},
         {"", "Vortice", "Inverso", "1-4", "", ""},
@@ -31,6 +31,12 @@ TEST(ScritturaCondizioni, TextsOfEveryTypeAsTheEditorsWriteThem) {
         const Condizione c = LeggiCondizioni(g).condizioni[0];
         EXPECT_EQ(TestiDaCondizione(c), t) << t[kRigaCondizione];
     }
+    // A hand-made record may mark cells past the 20th: they are not written.
+    TestiGriglia g;
+    g.colonne = {casi[4]};
+    Condizione peso = LeggiCondizioni(g).condizioni[0];
+    peso.Numeri[21] = -1;
+    EXPECT_EQ(TestiDaCondizione(peso), casi[4]);
 }
 
 TEST(ScritturaCondizioni, RandomSystemsSurviveTextsAndBack) {
