@@ -1,7 +1,8 @@
 // The development: the fast path against the plain loop on random systems of
 // every class, and worked examples. Mutation testing leaves a few changes
-// alive that no user can see: when the per-row condition order is re-sorted
-// and how many pieces wait for the writer (speed only), the level or key
+// alive that no user can see: when the per-row condition order is re-sorted,
+// how many pieces wait for the writer, the early exits taken when no
+// candidate is left, an empty last step or piece (speed only), the level or key
 // count of a measure's table (one more is unused), the unreachable return
 // after a switch over every kind; and the merge of the threads' counters
 // running one element past its array, which changes no count in a release
