@@ -130,6 +130,8 @@ TEST(GrigliaCondizioni, WidthLimitsAndHighlight) {
     EXPECT_TRUE(g.CambiaLarghezzaColonne(+1));
     EXPECT_EQ(g.columnWidth(1), 11 * w);
     EXPECT_EQ(g.columnWidth(200), 11 * w);
+    EXPECT_TRUE(g.CambiaLarghezzaColonne(0));  // a step that is not above 0 narrows
+    EXPECT_EQ(g.columnWidth(1), 10 * w);
 
     g.resize(600, 500);
     g.PortaInVista(1);
