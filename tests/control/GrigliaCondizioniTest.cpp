@@ -4,8 +4,8 @@
 // is never seen. Likewise a combo's exact-text search running one index past
 // its items (UtilitaSchermo) meets an empty text no caller asks for, a cell
 // asked for one column past the grid is missing either way (the table has
-// none there), a width step of 0 is never asked for, and the number grid's
-// spacing and button sizes one pixel apart are nothing a user can tell.
+// none there), and the number grid's spacing and button sizes one pixel
+// apart are nothing a user can tell.
 #include <gtest/gtest.h>
 
 #include <QLabel>
