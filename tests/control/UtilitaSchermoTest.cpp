@@ -101,3 +101,17 @@ TEST(UtilitaSchermo, KeyFilterAndDialogs) {
     EXPECT_EQ(FiltriQt("Sistemi condizionati (*.sic)|*.sic"), QStringList{"Sistemi condizionati (*.sic)"});
     EXPECT_EQ(FiltriQt("File colonne|*.col|Tutti|*.*"), (QStringList{"File colonne (*.col)", "Tutti (*.*)"}));
 }
+
+// -1 keeps a window on top of the others (and shows it), 0 lets it go;
+// any other flag, or no window, changes nothing.
+TEST(InPrimoPiano, MinusOneKeepsAWindowOnTopAndZeroLetsItGo) {
+    QWidget finestra;
+    InPrimoPiano(&finestra, -1);
+    EXPECT_TRUE(finestra.windowFlags() & Qt::WindowStaysOnTopHint);
+    EXPECT_TRUE(finestra.isVisible());
+    InPrimoPiano(&finestra, 5);
+    EXPECT_TRUE(finestra.windowFlags() & Qt::WindowStaysOnTopHint);
+    InPrimoPiano(&finestra, 0);
+    EXPECT_FALSE(finestra.windowFlags() & Qt::WindowStaysOnTopHint);
+    InPrimoPiano(nullptr, -1);
+}
