@@ -1,3 +1,6 @@
+// Small screen helpers and the report of a caught error. The report's error
+// number is set by every kind of exception it catches, so the value it
+// starts from is never shown.
 #include <gtest/gtest.h>
 
 #include <QComboBox>
