@@ -5,8 +5,11 @@
 // never what it may hand out: how many one-number changes are tried before
 // the walk over u's coverers, whether an input column found at index 0 is
 // taken, the counters a stage or a restart starts from, how many searches
-// run side by side, which orbit stands in when none may enter, and the
-// default seed (the clock decides a timed run anyway). A mask read one word
+// run side by side, which orbit stands in when none may enter, how often the
+// clock is read, and the default seed (the clock decides a timed run
+// anyway). Number 0, which no column holds, scanned or not, a rotation
+// applied once more (it comes back to its start), and a lone column sent
+// through the search (it comes back alone) change nothing either. A mask read one word
 // before its start reads zeros in a release build; the AddressSanitizer run
 // of scripts/test.sh is where it shows.
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// Writing a condition back into the grid's texts. The cells text starting
+// from position 0, which no record marks, writes the same.
 #include <gtest/gtest.h>
 
 #include "ConfrontoColonna.h"
