@@ -3,6 +3,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "../engine/ArchivioDiProva.h"
 #include "ArchivioEstrazioni.h"
 #include "ProvaCli.h"
 #include "FileColonne.h"
@@ -62,15 +63,7 @@ TEST_F(StoricoTest, TotalsEqualTheWinningsCheckRunDrawByDraw) {
 // per-draw points), a line that is not a draw, and the money estimate.
 TEST_F(StoricoTest, PrintsTotalsBestDrawLongestDelayAndMoneyPerYear) {
     ScriviFileColonne(Percorso("c.col"), {{{1, 2, 3}}, {{1, 4, 5}}, {{2, 4, 6}}, {{7, 8, 9}}});
-    std::ofstream(Percorso("a.txt")) << "# prova\n"
-                                        "11/01/2024;Bari;4;5;6;60;61\n"
-                                        "2024-01-02;Bari;1;2;4;10;11\n"
-                                        "2024-01-04 Roma 1 2 3 40 41\n"
-                                        "2024-01-04;Bari;20;21;22;23;24\n"
-                                        "2024-01-05;Bari;20;21;22;23\n"
-                                        "2024-01-06;Bari;7;30;31;32;33\n"
-                                        "2024-01-09;Bari;50;51;52;53;54\n"
-                                        "2023-12-28;Bari;80;81;82;83;84\n";
+    std::ofstream(Percorso("a.txt")) << test::kArchivioDiProva;
     ASSERT_EQ(Esegui({"storico", Percorso("c.col"), "--archivio", Percorso("a.txt"), "--gioco", "Lotto", "--posta",
                       "2.5", "--premi", "2=10,3=100"}), 0) << err_.str();
     EXPECT_EQ(out_.str(),

@@ -148,9 +148,6 @@ TEST(Decodifica, TypeCodesOutsideTheTable) {
         EXPECT_FALSE(GiudicataSuElenco(codice) || GiudicataSuIntervallo(codice)) << codice;
         EXPECT_EQ(DescrizioneDelTipo(codice) == nullptr, codice != 0) << codice;
     }
-    EXPECT_EQ(NomeTipoCondizione(18), "Paralleli");
-    EXPECT_TRUE(GiudicataSuElenco(18));
-    EXPECT_TRUE(GiudicataSuIntervallo(kPeso));
 }
 
 TEST(Decodifica, EmptyGridGivesOneRecordThatAlwaysPasses) {

@@ -18,23 +18,19 @@ TEST(ParametriTesto, EachFormReadsItsFields) {
     EXPECT_EQ(consecutivi.recupero, (std::vector<int>{1}));
     EXPECT_TRUE(consecutivi.conRecupero);
     EXPECT_EQ(consecutivi.intestazione, "");
-
     const ParametriInserimento resto = LeggiTestoParametri(kResto, "Resto a : 3\r\n1,2");
     EXPECT_EQ(resto.intestazione, "Resto a : 3");
     EXPECT_EQ(resto.accettati, (std::vector<int>{1, 2}));
     EXPECT_FALSE(resto.conRecupero);
-
     const ParametriInserimento sequenze = LeggiTestoParametri(kSequenze, "PDP\r\n0,1|2|ignorato");
     EXPECT_EQ(sequenze.intestazione, "PDP");
     EXPECT_EQ(sequenze.accettati, (std::vector<int>{0, 1}));
     EXPECT_EQ(sequenze.recupero, (std::vector<int>{2}));
-
     const ParametriInserimento peso = LeggiTestoParametri(kPeso, " 5 , 40 |1,9");
     EXPECT_EQ(peso.intervallo, (Intervallo{"5", "40"}));
     EXPECT_EQ(peso.intervalloRecupero, (Intervallo{"1", "9"}));
     EXPECT_TRUE(peso.conRecupero);
     EXPECT_TRUE(peso.accettati.empty());
-
     // An empty recovery field is no recovery; an empty text and a type
     // without a form give empty parameters.
     EXPECT_FALSE(LeggiTestoParametri(kPonte, "1|").conRecupero);

@@ -262,8 +262,6 @@ TEST(F_Riduzione, ReducesColumnsOfAnyClassWithNMinusTheEntry) {
         {"classe 5 a mano, N - 1", cinque, 5, 0, 4, 3},
         {"classe 5 a mano, N - 2", cinque, 5, 1, 3, 2},
         {"classe 5, N - 2", ColonneCasuali(21, 300, 12, 5), 5, 1, 3, -1},
-        {"classe 5, N - 3", ColonneCasuali(22, 300, 11, 5), 5, 2, 2, -1},
-        {"classe 3, N - 1", ColonneCasuali(23, 200, 10, 3), 3, 0, 2, -1},
         {"classe 3, N - 2", ColonneCasuali(24, 200, 10, 3), 3, 1, 1, -1},
         {"classe 2, N - 1", ColonneCasuali(25, 60, 14, 2), 2, 0, 1, -1},
         {"classe 10, N - 3", ColonneCasuali(26, 120, 14, 10), 10, 2, 7, -1},

@@ -29,6 +29,7 @@
 #include <fstream>
 
 #include "../control/Banco.h"
+#include "../engine/ArchivioDiProva.h"
 #include "F_Spoglio.h"
 #include "F_VerificaArchivio.h"
 #include "ImpostazioniStorico.h"
@@ -60,15 +61,7 @@ struct Prova {
     Prova() {
         b.c.setClasse(6);
         b.c.ImpostaColonneSviluppo({combi::Colonna{}, {{1, 2, 3}}, {{1, 4, 5}}, {{2, 4, 6}}, {{7, 8, 9}}});
-        std::ofstream(archivio.toStdString()) << "# prova\n"
-                                                 "11/01/2024;Bari;4;5;6;60;61\n"
-                                                 "2024-01-02;Bari;1;2;4;10;11\n"
-                                                 "2024-01-04 Roma 1 2 3 40 41\n"
-                                                 "2024-01-04;Bari;20;21;22;23;24\n"
-                                                 "2024-01-05;Bari;20;21;22;23\n"
-                                                 "2024-01-06;Bari;7;30;31;32;33\n"
-                                                 "2024-01-09;Bari;50;51;52;53;54\n"
-                                                 "2023-12-28;Bari;80;81;82;83;84\n";
+        std::ofstream(archivio.toStdString()) << combi::test::kArchivioDiProva;
         impostazioni.setValue("VerificaArchivio/Archivio", archivio);
     }
     // The prize of `punti` typed into its row of the table.
