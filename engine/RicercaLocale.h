@@ -68,8 +68,9 @@ public:
     // The state recounted from the kept columns alone (how many cover each
     // column, which are uncovered) equals the one the steps keep up to date,
     // and every change the search took moved its cost (the uncovered count,
-    // or weight) by the amount it was judged by. For the tests: a step's bookkeeping is where
-    // a fault would hide, since a wrong count only makes the search worse.
+    // or weight) by the amount it was judged by. For the tests: a step's
+    // bookkeeping is where a fault would hide, since a wrong count only makes
+    // the search worse.
     bool Coerente() const;
 
 private:

@@ -55,7 +55,6 @@ public:
     static constexpr uint64_t kMassimeVicine = 40'000'000;  // 160 MB of orbit lists
 
 private:
-
     template <typename F>
     void Vicini(uint32_t i, Timbri&, F&& f) const {
         for (uint64_t m = inizioVicine_[i]; m < inizioVicine_[size_t(i) + 1]; ++m) f(vicine_[m]);
