@@ -1,7 +1,6 @@
 #include "RicercaPesi.h"
 
 #include <algorithm>
-#include <span>
 
 namespace combi::riduzione {
 
@@ -24,15 +23,14 @@ RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, u
     scoperte_ = InsiemeIndicizzato(unita_);
     for (uint32_t i = 0; i < unita_; ++i) {
         scoperte_.Inserisci(i);
-        Vicini(i, timbriFuori_, [&](uint32_t) { ++punteggio_[i]; });
+        punteggio_[i] += int64_t(Vicine(i).size());
     }
     // Greedy start: a whole orbit of most score covering a random hole.
     while (!scoperte_.empty()) {
         const uint32_t u = scoperte_[size_t(Caso() % scoperte_.size())];
         uint32_t scelta = UINT32_MAX;
-        Vicini(u, timbriFuori_, [&](uint32_t j) {
+        for (uint32_t j : Vicine(u))
             if (piena_[j] && (scelta == UINT32_MAX || punteggio_[j] > punteggio_[scelta])) scelta = j;
-        });
         if (scelta == UINT32_MAX) {
             valida_ = false;
             return;
@@ -82,9 +80,10 @@ bool RicercaPesi::CostruisciOrbite(int ordine, uint64_t massimeVicine) {
     }
     // An orbit covers another when its first column covers a column of it.
     std::vector<uint32_t> segno(unita_, UINT32_MAX);
+    Timbri timbri;
     inizioVicine_.push_back(0);
     for (uint32_t o = 0; o < unita_; ++o) {
-        v_.PerVicini(colonneOrbita_[inizioOrbita_[o]], timbriFuori_, [&](uint32_t j) {
+        v_.PerVicini(colonneOrbita_[inizioOrbita_[o]], timbri, [&](uint32_t j) {
             const uint32_t p = orbita[j];
             if (segno[p] == o) return;
             segno[p] = o;
@@ -112,42 +111,42 @@ void RicercaPesi::Registra() {
 void RicercaPesi::Aggiungi(uint32_t c) {
     tenute_.Inserisci(c);
     ultimoCambio_[c] = passo_;
-    Vicini(c, timbriFuori_, [&](uint32_t e) {
+    for (uint32_t e : Vicine(c)) {
         const int64_t w = peso_[e];
         if (coperture_[e] == 0) {
             // Covered now: nobody gains it any more, c alone covers it.
             scoperte_.Togli(e);
-            Vicini(e, timbriDentro_, [&](uint32_t j) {
+            for (uint32_t j : Vicine(e)) {
                 punteggio_[j] -= w;
                 puoEntrare_[j] = 1;
-            });
+            }
             punteggio_[c] -= w;
         } else if (coperture_[e] == 1) {
             punteggio_[xorTenute_[e]] += w;  // its single coverer no longer alone
         }
         ++coperture_[e];
         xorTenute_[e] ^= c;
-    });
+    }
 }
 
 void RicercaPesi::Togli(uint32_t c) {
     tenute_.Togli(c);
     ultimoCambio_[c] = passo_;
-    Vicini(c, timbriFuori_, [&](uint32_t e) {
+    for (uint32_t e : Vicine(c)) {
         const int64_t w = peso_[e];
         xorTenute_[e] ^= c;
         --coperture_[e];
         if (coperture_[e] == 0) {
             scoperte_.Inserisci(e);
             punteggio_[c] += w;  // c no longer its single coverer
-            Vicini(e, timbriDentro_, [&](uint32_t j) {
+            for (uint32_t j : Vicine(e)) {
                 punteggio_[j] += w;
                 puoEntrare_[j] = 1;
-            });
+            }
         } else if (coperture_[e] == 1) {
             punteggio_[xorTenute_[e]] -= w;  // the one left covers it alone
         }
-    });
+    }
     puoEntrare_[c] = 0;
 }
 
@@ -166,14 +165,14 @@ uint32_t RicercaPesi::DaTogliere() const {
 // Among the whole orbits covering u, the allowed one of highest score, ties to the oldest.
 uint32_t RicercaPesi::DaAggiungere(uint32_t u) {
     uint32_t scelta = UINT32_MAX, ripiego = UINT32_MAX;
-    Vicini(u, timbriFuori_, [&](uint32_t j) {
-        if (!piena_[j]) return;
+    for (uint32_t j : Vicine(u)) {
+        if (!piena_[j]) continue;
         if (ripiego == UINT32_MAX || punteggio_[j] > punteggio_[ripiego]) ripiego = j;
-        if (!puoEntrare_[j]) return;
+        if (!puoEntrare_[j]) continue;
         if (scelta == UINT32_MAX || punteggio_[j] > punteggio_[scelta] ||
             (punteggio_[j] == punteggio_[scelta] && ultimoCambio_[j] < ultimoCambio_[scelta]))
             scelta = j;
-    });
+    }
     return scelta != UINT32_MAX ? scelta : ripiego;
 }
 
@@ -181,7 +180,7 @@ uint32_t RicercaPesi::DaAggiungere(uint32_t u) {
 void RicercaPesi::Pesa() {
     for (uint32_t e : scoperte_) {
         ++peso_[e];
-        Vicini(e, timbriDentro_, [&](uint32_t j) { ++punteggio_[j]; });
+        for (uint32_t j : Vicine(e)) ++punteggio_[j];
     }
 }
 
@@ -215,9 +214,6 @@ bool RicercaPesi::Passo() {
 }
 
 bool RicercaPesi::Coerente() const {
-    const auto Vicine = [&](uint32_t o) {
-        return std::span(vicine_).subspan(inizioVicine_[o], inizioVicine_[size_t(o) + 1] - inizioVicine_[o]);
-    };
     std::vector<uint32_t> coperture(unita_, 0), xorTenute(unita_, 0);
     for (uint32_t k : tenute_)
         for (uint32_t e : Vicine(k)) ++coperture[e], xorTenute[e] ^= k;

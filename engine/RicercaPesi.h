@@ -23,6 +23,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "GeneratoreCasuale.h"
@@ -55,9 +56,9 @@ public:
     static constexpr uint64_t kMassimeVicine = 40'000'000;  // 160 MB of orbit lists
 
 private:
-    template <typename F>
-    void Vicini(uint32_t i, Timbri&, F&& f) const {
-        for (uint64_t m = inizioVicine_[i]; m < inizioVicine_[size_t(i) + 1]; ++m) f(vicine_[m]);
+    // The orbits orbit o covers.
+    std::span<const uint32_t> Vicine(uint32_t o) const {
+        return std::span(vicine_).subspan(inizioVicine_[o], inizioVicine_[size_t(o) + 1] - inizioVicine_[o]);
     }
     bool CostruisciOrbite(int ordine, uint64_t massimeVicine);
     void Registra();
@@ -87,7 +88,6 @@ private:
     std::vector<uint8_t> puoEntrare_;     // configuration checking
     InsiemeIndicizzato tenute_;
     InsiemeIndicizzato scoperte_;
-    Timbri timbriFuori_, timbriDentro_;
     uint32_t ultimaAggiunta_ = UINT32_MAX;
     uint64_t passo_ = 0;
     std::vector<uint32_t> migliore_;
