@@ -168,7 +168,9 @@ TEST(RiduzioneOttimizzata, EveryBestOfTheSearchCovers) {
             size_t precedente = ricerca.Migliore().size() + 1;
             for (int passo = 0; passo < 4000; ++passo) {
                 const bool meglio = passo == 0 || ricerca.Passo();
-                if (passo % 100 == 0) ASSERT_TRUE(ricerca.Coerente()) << "passo " << passo;
+                if (passo % 100 == 0) {
+                    ASSERT_TRUE(ricerca.Coerente()) << "passo " << passo;
+                }
                 if (!meglio) continue;
                 const std::vector<uint32_t>& m = ricerca.Migliore();
                 ASSERT_LT(m.size(), precedente);
@@ -195,7 +197,9 @@ TEST(RiduzioneOttimizzata, TiesAreBrokenEvenly) {
         riduzione::SceltaACaso<int> scelta(caso);
         for (uint32_t c = 0; c < 6; ++c) scelta.Proponi(c, chiavi[c]);
         ++volte[scelta.Scelta()];
-        if (prova == 0) EXPECT_EQ(scelta.Minima(), 1);
+        if (prova == 0) {
+            EXPECT_EQ(scelta.Minima(), 1);
+        }
     }
     EXPECT_EQ(volte[0] + volte[2], 0);
     for (int c : {1, 3, 4, 5}) EXPECT_NEAR(volte[size_t(c)], 10000, 600) << c;
@@ -228,7 +232,9 @@ TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
         };
         for (int passo = 0; passo < 3000; ++passo) {
             const bool meglio = passo == 0 || ricerca.Passo();
-            if (passo % 100 == 0) ASSERT_TRUE(ricerca.Coerente()) << c.n << " " << c.ordine << " passo " << passo;
+            if (passo % 100 == 0) {
+                ASSERT_TRUE(ricerca.Coerente()) << c.n << " " << c.ordine << " passo " << passo;
+            }
             if (!meglio) continue;
             const std::vector<uint32_t>& m = ricerca.Migliore();
             ASSERT_TRUE(std::is_sorted(m.begin(), m.end()));
@@ -245,7 +251,9 @@ TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
         }
         // Two orbits of 1..12 at 4 points cover (the search finds such a
         // cover, checked above): it does not stop at three on the way.
-        if (c.n == 12 && c.ordine == 3) EXPECT_EQ(ricerca.Migliore().size(), 6u);
+        if (c.n == 12 && c.ordine == 3) {
+            EXPECT_EQ(ricerca.Migliore().size(), 6u);
+        }
     }
     // Orbit lists longer than the limit are not built. 1..12 in class 6 has
     // 924 columns in 312 orbits of a rotation by 4 (306 of three columns, 6
