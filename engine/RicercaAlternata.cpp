@@ -9,9 +9,7 @@ namespace combi::riduzione {
 RicercaAlternata::RicercaAlternata(std::shared_ptr<const Vicinato> vicinato, const std::vector<uint32_t>& iniziali,
                                    uint64_t seme) {
     ricerche_.push_back(std::make_unique<RicercaLocale>(vicinato, iniziali, seme, true));
-    Maschera tutti{0, 0};
-    for (uint32_t i = 0; i < vicinato->Quante(); ++i)
-        tutti[0] |= vicinato->Numeri(i)[0], tutti[1] |= vicinato->Numeri(i)[1];
+    const Maschera tutti = vicinato->NumeriUsati();
     const int m = std::popcount(tutti[0]) + std::popcount(tutti[1]);
     for (int ordine = 2; ordine <= m; ++ordine) {
         if (m % ordine != 0) continue;

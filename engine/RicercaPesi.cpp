@@ -42,8 +42,7 @@ RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, u
 
 // The orbits of the rotation by m / ordine places of the m numbers in use.
 bool RicercaPesi::CostruisciOrbite(int ordine, uint64_t massimeVicine) {
-    Maschera tutti{0, 0};
-    for (uint32_t i = 0; i < v_.Quante(); ++i) tutti[0] |= v_.Numeri(i)[0], tutti[1] |= v_.Numeri(i)[1];
+    const Maschera tutti = v_.NumeriUsati();
     std::vector<int> numeri;
     for (int n = 0; n < 128; ++n)
         if ((tutti[size_t(n >> 6)] >> (n & 63)) & 1) numeri.push_back(n);

@@ -15,6 +15,12 @@ Vicinato::Vicinato(const std::vector<Colonna>& colonne, int classe, int punti, u
     CostruisciTabella();
 }
 
+Maschera Vicinato::NumeriUsati() const {
+    Maschera tutti{0, 0};
+    for (const Maschera& m : maschere_) tutti[0] |= m[0], tutti[1] |= m[1];
+    return tutti;
+}
+
 int Vicinato::Comuni(uint32_t a, uint32_t b) const {
     return std::popcount(maschere_[a][0] & maschere_[b][0]) + std::popcount(maschere_[a][1] & maschere_[b][1]);
 }

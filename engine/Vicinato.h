@@ -40,6 +40,7 @@ public:
     uint32_t Quante() const { return uint32_t(maschere_.size()); }
     int Classe() const { return classe_; }
     const Maschera& Numeri(uint32_t i) const { return maschere_[i]; }
+    Maschera NumeriUsati() const;  // every number some column holds
     int Comuni(uint32_t a, uint32_t b) const;
     bool Copre(uint32_t a, uint32_t b) const { return Comuni(a, b) >= punti_; }
     // The input column holding exactly these numbers, -1 if none.
