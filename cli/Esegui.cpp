@@ -42,6 +42,28 @@ void Uso(std::ostream& err) {
 
 }  // namespace
 
+int EseguiComando(const std::string& nome, const std::string& uso, const std::function<int()>& corpo,
+                  std::ostream& err) {
+    try {
+        return corpo();
+    } catch (const ErroreUso& e) {
+        err << "combifiltro-cli " << nome << ": " << e.messaggio << "\nUso: combifiltro-cli " << uso << "\n";
+        return 2;
+    } catch (const Errore& e) {
+        err << "Errore " << e.numero() << "- " << e.descrizione() << "\n";
+        return 1;
+    } catch (const std::bad_alloc&) {
+        err << "Errore " << kErroreMemoria << "- Memoria insufficiente\n";
+        return 1;
+    } catch (const std::exception& e) {
+        // Anything else the system throws (a thread it refuses, a failed
+        // mapping) ends the command with its message, never the process
+        // with an abort.
+        err << "Errore imprevisto: " << e.what() << "\n";
+        return 1;
+    }
+}
+
 int Esegui(const Parole& parole, std::ostream& out, std::ostream& err) {
     if (parole.empty() || parole[0] == "--help" || parole[0] == "aiuto") {
         Uso(err);
@@ -49,25 +71,8 @@ int Esegui(const Parole& parole, std::ostream& out, std::ostream& err) {
     }
     for (const Comando& c : kComandi) {
         if (parole[0] != c.nome) continue;
-        try {
-            return c.esegui(Parole(parole.begin() + 1, parole.end()), out, err);
-        } catch (const ErroreUso& e) {
-            err << "combifiltro-cli " << c.nome << ": " << e.messaggio << "\nUso: combifiltro-cli " << c.uso
-                << "\n";
-            return 2;
-        } catch (const Errore& e) {
-            err << "Errore " << e.numero() << "- " << e.descrizione() << "\n";
-            return 1;
-        } catch (const std::bad_alloc&) {
-            err << "Errore " << kErroreMemoria << "- Memoria insufficiente\n";
-            return 1;
-        } catch (const std::exception& e) {
-            // Anything else the system throws (a thread it refuses, a
-            // failed mapping) ends the command with its message, never the
-            // process with an abort.
-            err << "Errore imprevisto: " << e.what() << "\n";
-            return 1;
-        }
+        const Parole argomenti(parole.begin() + 1, parole.end());
+        return EseguiComando(c.nome, c.uso, [&] { return c.esegui(argomenti, out, err); }, err);
     }
     err << "combifiltro-cli: comando sconosciuto \"" << parole[0] << "\"\n";
     Uso(err);

@@ -77,7 +77,7 @@ CondizioneCompilata::CondizioneCompilata(const Condizione& c, int classe, const 
         if (k >= 2) {
             genere_ = Genere::Ampiezza;
             chiavi_ = kMaxNumero + 1;  // the first number
-            Relativa([&](uint32_t, Maschera128& sup, Maschera128& rec) {  // over x - first
+            Tabula([&](uint32_t, Maschera128& sup, Maschera128& rec) {  // over x - first
                 sup = SupSpostato(0);
                 rec = RecSpostato(0);
             }, 1);
@@ -196,20 +196,14 @@ void CondizioneCompilata::ContaRiga(const Prefisso& q, uint32_t riga, int yPrimo
 }
 
 void CondizioneCompilata::CompilaConta(const Condizione& c) {
-    genere_ = Genere::Conta;
     for (int n = 1; n <= kMaxNumero; ++n)
         if (c.Numeri[size_t(n)] != 0) insieme_.Imposta(n);
-    chiavi_ = kMaxClasse;  // the prefix holds at most 19 numbers
-    for (uint32_t a = 0; a < chiavi_; ++a) {
-        sup_.push_back(Scegli(Accetta(a), Accetta(a + 1), insieme_));
-        rec_.push_back(Scegli(Recupera(a), Recupera(a + 1), insieme_));
-    }
+    CompilaVicini(Genere::Conta, insieme_);
 }
 
-// The gap kinds' masks are built over the gap g = x - last and moved up by
-// the last number on every block.
+// The masks of every key 0..chiavi-1, one call of `maschere` each.
 template <class F>
-void CondizioneCompilata::Relativa(F&& maschere, uint32_t chiavi) {
+void CondizioneCompilata::Tabula(F&& maschere, uint32_t chiavi) {
     sup_.resize(chiavi);
     rec_.resize(chiavi);
     for (uint32_t c = 0; c < chiavi; ++c) maschere(c, sup_[c], rec_[c]);
@@ -217,8 +211,10 @@ void CondizioneCompilata::Relativa(F&& maschere, uint32_t chiavi) {
 
 void CondizioneCompilata::CompilaDistanze(Genere genere) {
     genere_ = genere;
+    // Built over the gap g = x - last and moved up by the last number on
+    // every block.
     chiavi_ = kMaxNumero + 1;
-    Relativa([&](uint32_t chiave, Maschera128& sup, Maschera128& rec) {
+    Tabula([&](uint32_t chiave, Maschera128& sup, Maschera128& rec) {
         if (genere == Genere::DistanzaMinima) {
             // min(d, g): d itself from g = d on, g below it.
             const int64_t d = chiave == kSenzaDistanza ? int64_t(Prefisso::kNessunaDistanza) : int64_t(chiave);
@@ -237,31 +233,30 @@ void CondizioneCompilata::CompilaDistanze(Genere genere) {
     }, kMaxNumero + 1);
 }
 
-// The prefix's count a, one more for the gaps in `piu`.
+// The prefix's count a (it holds at most 19 numbers), one more for the
+// candidates in `piu`.
 void CondizioneCompilata::CompilaVicini(Genere genere, const Maschera128& piu) {
     genere_ = genere;
     chiavi_ = kMaxClasse;
-    Relativa([&](uint32_t a, Maschera128& sup, Maschera128& rec) {
+    Tabula([&](uint32_t a, Maschera128& sup, Maschera128& rec) {
         sup = Scegli(Accetta(a), Accetta(int64_t(a) + 1), piu);
         rec = Scegli(Recupera(a), Recupera(int64_t(a) + 1), piu);
-    }, kMaxClasse);
+    }, chiavi_);
 }
 
 void CondizioneCompilata::CompilaPerSomma(const Condizione& c, const std::vector<int>& numeri) {
     genere_ = Genere::PerSomma;
     chiavi_ = uint32_t(SommaMassima(numeri, k_ - 1)) + 1;
-    sup_.resize(chiavi_);
-    rec_.resize(chiavi_);
     ProfiloColonna pc;
     pc.k = k_;
-    for (uint32_t s = 0; s < chiavi_; ++s) {
+    Tabula([&](uint32_t s, Maschera128& sup, Maschera128& rec) {
         for (int x = 1; x <= kMaxNumero; ++x) {
             pc.somma = int32_t(s) + x;
             const int32_t v = c.Tipo == kResto ? MisuraResto(pc, c.Parametro) : MisuraBaricentro(pc);
-            if (Accetta(v)) sup_[s].Imposta(x);
-            if (Recupera(v)) rec_[s].Imposta(x);
+            if (Accetta(v)) sup.Imposta(x);
+            if (Recupera(v)) rec.Imposta(x);
         }
-    }
+    }, chiavi_);
 }
 
 void CondizioneCompilata::CompilaParita() {

@@ -145,7 +145,7 @@ private:
     void CompilaDistanze(Genere genere);
     void CompilaVicini(Genere genere, const Maschera128& piu);
     template <class F>
-    void Relativa(F&& maschere, uint32_t chiavi);
+    void Tabula(F&& maschere, uint32_t chiavi);
     // The parity measure's sup code | rec code << 2 after a prefix's parities.
     uint8_t CodiceParita(uint32_t parita) const;
 

@@ -16,7 +16,7 @@ double Fattoriale(int n) {
 
 double CalcolaIntegrali(int n, int k) {
     if (n < k) return 0.0;
-    const double f = (n - k >= 1) ? Fattoriale(n - k) : 1.0;
+    const double f = n == k ? 1.0 : Fattoriale(n - k);  // Fattoriale(0) is 0
     return Fattoriale(n) / (Fattoriale(k) * f);
 }
 

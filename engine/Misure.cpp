@@ -37,7 +37,7 @@ int32_t MisuraResto(const ProfiloColonna& pc, int divisore) {
 }
 
 int32_t MisuraAmpiezza(const ProfiloColonna& pc) {
-    return pc.k < 1 ? 0 : pc.c[pc.k] - pc.c[1];
+    return pc.k == 0 ? 0 : pc.c[pc.k] - pc.c[1];
 }
 
 int32_t MisuraDistanzaMinima(const ProfiloColonna& pc) {

@@ -102,8 +102,8 @@ static Maschera Scambio(const Maschera& a, const Differenza& d, uint64_t i, uint
     const int x = BitNumero(d.fuori, i);
     const int y = BitNumero(d.mancanti, j);
     Maschera m = a;
-    m[size_t(x >> 6)] &= ~(uint64_t(1) << (x & 63));
-    m[size_t(y >> 6)] |= uint64_t(1) << (y & 63);
+    Leva(m, x);
+    Metti(m, y);
     return m;
 }
 

@@ -42,37 +42,31 @@ RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, u
 
 // The orbits of the rotation by m / ordine places of the m numbers in use.
 bool RicercaPesi::CostruisciOrbite(int ordine, uint64_t massimeVicine) {
-    const Maschera tutti = v_.NumeriUsati();
     std::vector<int> numeri;
-    for (int n = 0; n < 128; ++n)
-        if ((tutti[size_t(n >> 6)] >> (n & 63)) & 1) numeri.push_back(n);
+    PerOgniNumero(v_.NumeriUsati(), [&](int n) { numeri.push_back(n); });
     const int m = int(numeri.size());
     if (ordine < 2 || m % ordine != 0) return false;
     std::vector<int> immagine(128, -1);
     for (int p = 0; p < m; ++p) immagine[size_t(numeri[size_t(p)])] = numeri[size_t((p + m / ordine) % m)];
     const auto ruota = [&](const Maschera& x) {
         Maschera y{0, 0};
-        for (int n : numeri)
-            if ((x[size_t(n >> 6)] >> (n & 63)) & 1) {
-                const int r = immagine[size_t(n)];
-                y[size_t(r >> 6)] |= uint64_t(1) << (r & 63);
-            }
+        PerOgniNumero(x, [&](int n) { Metti(y, immagine[size_t(n)]); });
         return y;
     };
     std::vector<uint32_t> orbita(v_.Quante(), UINT32_MAX);
     inizioOrbita_.push_back(0);
     for (uint32_t i = 0; i < v_.Quante(); ++i) {
         if (orbita[i] != UINT32_MAX) continue;
+        // The rotation has order `ordine`: the walk is back at column i
+        // after at most that many turns, sooner when i is symmetric.
         Maschera x = v_.Numeri(i);
-        for (int g = 0; g < ordine; ++g) {
+        do {
             const int64_t j = v_.Cerca(x);
             if (j < 0) return false;  // the input is not closed under the rotation
-            if (orbita[size_t(j)] == UINT32_MAX) {
-                orbita[size_t(j)] = unita_;
-                colonneOrbita_.push_back(uint32_t(j));
-            }
+            orbita[size_t(j)] = unita_;
+            colonneOrbita_.push_back(uint32_t(j));
             x = ruota(x);
-        }
+        } while (x != v_.Numeri(i));
         inizioOrbita_.push_back(colonneOrbita_.size());
         piena_.push_back(inizioOrbita_.back() - inizioOrbita_[inizioOrbita_.size() - 2] == uint64_t(ordine));
         ++unita_;

@@ -4,6 +4,7 @@
 // needs 43 bits, so ranks are 64-bit. Shared by the reduction's index, the
 // optimising reduction and the search for holes; not part of the public interface.
 
+#include <array>
 #include <cstdint>
 
 #include "Colonna.h"
@@ -27,21 +28,19 @@ inline constexpr Binomiali kBinomiali;
 inline uint64_t C(int n, int k) { return k < 0 || k > kMassimoK || n < 0 || n < k ? 0 : kBinomiali.c[n][k]; }
 
 // Calls f(rank) for every k-subset of the `quanti` ascending numbers 0..89 in
-// `a` (k 1..10), in lexicographic order of positions. Returns the count.
+// `a` (k 1..10), in lexicographic order of positions.
 template <typename F>
-int PerSottoinsiemi(const uint8_t* a, int quanti, int k, F&& f) {
-    if (k < 1 || k > quanti || k > kMassimoK) return 0;
-    int p[kMassimoK];
+void PerSottoinsiemi(const uint8_t* a, int quanti, int k, F&& f) {
+    if (k < 1 || k > quanti || k > kMassimoK) return;
+    std::array<int, kMassimoK> p{};
     for (int m = 0; m < k; ++m) p[m] = m;
-    int visti = 0;
     for (;;) {
         uint64_t r = 0;
         for (int m = 0; m < k; ++m) r += kBinomiali.c[a[p[m]]][m + 1];
         f(r);
-        ++visti;
         int m = k - 1;
         while (m >= 0 && p[m] == quanti - k + m) --m;
-        if (m < 0) return visti;
+        if (m < 0) return;
         ++p[m];
         for (int q = m + 1; q < k; ++q) p[q] = p[q - 1] + 1;
     }

@@ -7,10 +7,7 @@ namespace combi::riduzione {
 Vicinato::Vicinato(const std::vector<Colonna>& colonne, int classe, int punti, uint64_t massimiVicini)
     : indice_(colonne, classe, punti), classe_(classe), punti_(punti), maschere_(colonne.size(), {0, 0}) {
     for (size_t i = 0; i < colonne.size(); ++i)
-        for (int pos = 1; pos <= classe; ++pos) {
-            const int n = colonne[i][pos];
-            maschere_[i][size_t(n >> 6)] |= uint64_t(1) << (n & 63);
-        }
+        for (int pos = 1; pos <= classe; ++pos) Metti(maschere_[i], colonne[i][pos]);
     CostruisciElenchi(massimiVicini);
     CostruisciTabella();
 }

@@ -19,11 +19,20 @@
 #include <vector>
 
 #include "Colonna.h"
+#include "Maschera.h"
 #include "RiduzioneIndice.h"
 
 namespace combi::riduzione {
 
 using Maschera = std::array<uint64_t, 2>;  // numbers 1..90 as bits
+
+inline void Metti(Maschera& m, int n) { m[size_t(n >> 6)] |= uint64_t(1) << (n & 63); }
+inline void Leva(Maschera& m, int n) { m[size_t(n >> 6)] &= ~(uint64_t(1) << (n & 63)); }
+// f(n) for every number of m, ascending.
+template <typename F>
+void PerOgniNumero(const Maschera& m, F&& f) {
+    Maschera128{m[0], m[1]}.PerOgni(f);
+}
 
 // The visit marks of one walker: a column is met once per round.
 struct Timbri {

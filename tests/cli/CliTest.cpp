@@ -1,6 +1,4 @@
-// combifiltro-cli end to end. Running out of memory (exit code 1, "Memoria
-// insufficiente") cannot be brought about from a test; its exit code is not
-// checked here.
+// combifiltro-cli end to end.
 #include <gtest/gtest.h>
 
 #include <unistd.h>
@@ -8,9 +6,13 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <new>
 #include <sstream>
+#include <stdexcept>
 
 #include "../engine/ColonnaDiProva.h"
+#include "Argomenti.h"
+#include "Errore.h"
 #include "ProvaCli.h"
 #include "Terminale.h"
 #include "DecodificaCondizioni.h"
@@ -159,6 +161,27 @@ TEST_F(CliTest, BadArgumentsAndHostileFilesGiveAMessageNotACrash) {
         EXPECT_NE(err_.str().find(c.messaggio), std::string::npos) << c.messaggio << " in: " << err_.str();
     }
     EXPECT_FALSE(fs::exists(P("x.col")));
+}
+
+// How a command's ending becomes its exit code and message: running out of
+// memory and a failure of the system cannot be brought about from the
+// command line, so a body throws them here.
+TEST(EseguiComando, EveryEndingHasItsExitCodeAndMessage) {
+    struct Caso { std::function<int()> corpo; int codice; const char* messaggio; };
+    const Caso casi[] = {
+        {[] { return 0; }, 0, ""},
+        {[] { return 1; }, 1, ""},
+        {[]() -> int { throw cli::ErroreUso{"opzione --x ripetuta"}; }, 2,
+         "combifiltro-cli prova: opzione --x ripetuta\nUso: combifiltro-cli prova FILE\n"},
+        {[]() -> int { throw Errore(53, "File non trovato"); }, 1, "Errore 53- File non trovato\n"},
+        {[]() -> int { throw std::bad_alloc(); }, 1, "Errore 7- Memoria insufficiente\n"},
+        {[]() -> int { throw std::runtime_error("thread rifiutato"); }, 1, "Errore imprevisto: thread rifiutato\n"},
+    };
+    for (const Caso& c : casi) {
+        std::ostringstream err;
+        EXPECT_EQ(cli::EseguiComando("prova", "prova FILE", c.corpo, err), c.codice) << c.messaggio;
+        EXPECT_EQ(err.str().substr(0, std::string(c.messaggio).size()), c.messaggio);
+    }
 }
 
 // The separator the process groups thousands with, in place of each "'".

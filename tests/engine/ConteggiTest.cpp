@@ -1,7 +1,4 @@
-// Counts of columns and the masks of numbers. (n - k) > 1 against
-// (n - k) >= 1 before the factorial of n - k is the same value: the
-// factorial of 1 is 1. Numbers start at 1, so bit 0 of a mask is never set;
-// for such a mask w & (w - 2) drops the lowest bit just as w & (w - 1) does.
+// Counts of columns and the masks of numbers.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -18,6 +15,7 @@ TEST(Conteggi, FactorialsAndIntegralCounts) {
     EXPECT_EQ(Fattoriale(1), 1.0);
     EXPECT_EQ(Fattoriale(5), 120.0);
     EXPECT_EQ(CalcolaIntegrali(5, 5), 1.0);
+    EXPECT_EQ(CalcolaIntegrali(6, 5), 6.0);
     EXPECT_EQ(CalcolaIntegrali(4, 5), 0.0);
     EXPECT_NEAR(CalcolaIntegrali(90, 6), 622614630.0, 1e-3);
     EXPECT_EQ(Combinazioni(90, 6), 622614630u);
@@ -53,6 +51,30 @@ TEST(Conteggi, MasksCountedPerCandidate) {
             ASSERT_EQ(esito.Contiene(candidato), atteso) << n << " masks, candidate " << candidato;
         }
     }
+}
+
+// The mask is a set of 0..127 for any caller, though a column's numbers
+// never set bit 0: the walk, the emptiness and the shift are checked at both
+// ends of each word.
+TEST(Conteggi, MaskOf128NumbersAtTheEndsOfItsWords) {
+    Maschera128 m;
+    EXPECT_TRUE(m.Vuota());
+    for (int n : {127, 0, 64, 1, 63}) m.Imposta(n);
+    std::vector<int> visti;
+    m.PerOgni([&](int n) { visti.push_back(n); });
+    EXPECT_EQ(visti, (std::vector<int>{0, 1, 63, 64, 127}));
+    EXPECT_EQ(m.Conta(), 5);
+    for (int n : {0, 127}) {
+        Maschera128 uno;
+        uno.Imposta(n);
+        EXPECT_FALSE(uno.Vuota()) << n;
+        EXPECT_TRUE(uno.Contiene(n));
+        EXPECT_FALSE(uno.Contiene(n == 0 ? 64 : 63)) << n;
+    }
+    const Maschera128 spostata = m.Sposta(1);  // 127 drops out, 63 crosses into the high word
+    EXPECT_EQ(spostata, (Maschera128{0b110, 0b11}));  // 1 2 | 64 65
+    EXPECT_TRUE(Maschera128::Intervallo(90, 89).Vuota());
+    EXPECT_EQ(Maschera128::Intervallo(62, 65), (Maschera128{uint64_t{3} << 62, 0b11}));
 }
 
 TEST(Conteggi, EnumerationIsLexicographicAndUnrankingAgrees) {

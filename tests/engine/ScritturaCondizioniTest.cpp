@@ -1,5 +1,4 @@
-// Writing a condition back into the grid's texts. The cells text starting
-// from position 0, which no record marks, writes the same.
+// Writing a condition back into the grid's texts.
 #include <gtest/gtest.h>
 
 #include "ConfrontoColonna.h"
@@ -33,10 +32,12 @@ TEST(ScritturaCondizioni, TextsOfEveryTypeAsTheEditorsWriteThem) {
         const Condizione c = LeggiCondizioni(g).condizioni[0];
         EXPECT_EQ(TestiDaCondizione(c), t) << t[kRigaCondizione];
     }
-    // A hand-made record may mark cells past the 20th: they are not written.
+    // A hand-made record may mark cell 0 or cells past the 20th, which the
+    // weight never reads: they are not written.
     TestiGriglia g;
     g.colonne = {casi[4]};
     Condizione peso = LeggiCondizioni(g).condizioni[0];
+    peso.Numeri[0] = -1;
     peso.Numeri[21] = -1;
     EXPECT_EQ(TestiDaCondizione(peso), casi[4]);
 }
