@@ -7,6 +7,7 @@
 #include "ColonnaDiProva.h"
 #include "ProvaCli.h"
 #include "FileColonne.h"
+#include "Garanzia.h"
 #include "Formato.h"
 
 namespace combi {
@@ -21,20 +22,8 @@ protected:
 
 using test::Col;
 
-// Every 6-number column of 1..n, written out by hand-rolled loops.
-std::vector<Colonna> Integrale(int n) {
-    std::vector<Colonna> v;
-    for (int a = 1; a <= n; ++a)
-        for (int b = a + 1; b <= n; ++b)
-            for (int c = b + 1; c <= n; ++c)
-                for (int d = c + 1; d <= n; ++d)
-                    for (int e = d + 1; e <= n; ++e)
-                        for (int f = e + 1; f <= n; ++f) v.push_back(Col({a, b, c, d, e, f}));
-    return v;
-}
-
 TEST_F(GaranziaCliTest, OptimisedReductionIsCheckedByTheGuaranteeCommand) {
-    ScriviFileColonne(P("tutte.col"), Integrale(13));  // 1,716 columns
+    ScriviFileColonne(P("tutte.col"), ColonneIntegrali(test::DaA(1, 13), 6));  // 1,716 columns
     ASSERT_EQ(Esegui({"riduci", P("tutte.col"), "--punti", "4", "--colonne", P("avida.col")}), 0) << err_.str();
     ASSERT_EQ(Esegui({"riduci", P("tutte.col"), "--punti", "4", "--colonne", P("ottima.col"), "--ottimizza",
                       "--secondi", "1", "--seme", "5"}),

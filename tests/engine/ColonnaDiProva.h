@@ -1,6 +1,7 @@
 #pragma once
-// Columns for the tests: one written out by hand, and seeded random sets of
-// them.
+// Columns for the tests: one written out by hand, seeded random sets of
+// them, and the numbers two of them share counted one by one, with the
+// holes of a reduction found that way.
 
 #include <algorithm>
 #include <initializer_list>
@@ -18,6 +19,33 @@ inline Colonna Col(std::initializer_list<int> numeri) {
     int pos = 1;
     for (int n : numeri) c[pos++] = uint8_t(n);
     return c;
+}
+
+// The numbers da..a.
+inline std::vector<int> DaA(int da, int a) {
+    std::vector<int> v;
+    for (int x = da; x <= a; ++x) v.push_back(x);
+    return v;
+}
+
+// The numbers two columns of class `classe` have in common, each of one
+// compared with each of the other.
+inline int Comuni(const Colonna& a, const Colonna& b, int classe = 6) {
+    int comuni = 0;
+    for (int p = 1; p <= classe; ++p)
+        for (int q = 1; q <= classe; ++q) comuni += a[p] == b[q];
+    return comuni;
+}
+
+// The columns of `daCoprire` sharing fewer than `punti` numbers with every
+// kept column, in their order.
+inline std::vector<Colonna> BuchiAForzaBruta(const std::vector<Colonna>& tenute, const std::vector<Colonna>& daCoprire,
+                                             int punti, int classe = 6) {
+    std::vector<Colonna> buchi;
+    for (const Colonna& d : daCoprire)
+        if (std::none_of(tenute.begin(), tenute.end(), [&](const Colonna& t) { return Comuni(d, t, classe) >= punti; }))
+            buchi.push_back(d);
+    return buchi;
 }
 
 // `n` columns of `classe` numbers out of 1..pool, so that every reduction

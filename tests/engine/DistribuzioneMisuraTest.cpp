@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "ColonnaDiProva.h"
 #include "Conteggi.h"
 #include "DistribuzioneMisura.h"
 #include "Errore.h"
@@ -29,11 +30,7 @@ uint64_t Binomiale(int n, int k) {
     return riga[size_t(k)];
 }
 
-std::vector<int> DaA(int a, int b) {
-    std::vector<int> v;
-    for (int n = a; n <= b; ++n) v.push_back(n);
-    return v;
-}
+using test::DaA;
 
 // Every type on seeded random systems: the count equals the enumeration,
 // and the accepted columns equal each condition's own counter after the

@@ -18,31 +18,7 @@ namespace {
 
 using test::Col;
 
-// The numbers of a column as a sorted list, for set operations written
-// independently of the engine's subset ranks.
-std::vector<int> Numeri(const Colonna& c) {
-    std::vector<int> v;
-    for (uint8_t n : c.Numeri)
-        if (n) v.push_back(n);
-    std::sort(v.begin(), v.end());
-    return v;
-}
-
-int InComune(const Colonna& a, const Colonna& b) {
-    const std::vector<int> x = Numeri(a), y = Numeri(b);
-    std::vector<int> z;
-    std::set_intersection(x.begin(), x.end(), y.begin(), y.end(), std::back_inserter(z));
-    return int(z.size());
-}
-
-std::vector<Colonna> BuchiAForzaBruta(const std::vector<Colonna>& tenute, const std::vector<Colonna>& daCoprire,
-                                      int punti) {
-    std::vector<Colonna> buchi;
-    for (const Colonna& d : daCoprire)
-        if (std::none_of(tenute.begin(), tenute.end(), [&](const Colonna& t) { return InComune(d, t) >= punti; }))
-            buchi.push_back(d);
-    return buchi;
-}
+using test::BuchiAForzaBruta;
 
 class StopAllaPompa : public OsservatoreRiduzione {
 public:
@@ -113,7 +89,7 @@ TEST(CercaBuchi, FindsThePlantedHolesAndNoneInACoveringSet) {
         // one: removing it leaves at least itself uncovered.
         int tolte = 0;
         for (; tolte < 3 && tenute.size() > 1; ++tolte) tenute.erase(tenute.begin() + rng() % tenute.size());
-        const std::vector<Colonna> attesi = BuchiAForzaBruta(tenute, daCoprire, punti);
+        const std::vector<Colonna> attesi = BuchiAForzaBruta(tenute, daCoprire, punti, classe);
         EXPECT_EQ(attesi.empty(), tolte == 0);
         conBuchi += !attesi.empty();
         EXPECT_EQ(CercaBuchi(tenute, daCoprire, punti, muto), attesi);

@@ -29,6 +29,7 @@ namespace combi {
 namespace {
 
 using test::Col;
+using test::DaA;
 
 // Every improvement reported, and a stop from the k-th pump (0: never).
 class Registro : public OsservatoreOttimizzazione {
@@ -62,13 +63,6 @@ std::vector<Colonna> Casuali(uint32_t seme, size_t n, int pool, int classe) {
         for (int p = 1; p <= classe; ++p) c[p] = uint8_t(numeri[size_t(p) - 1]);
         v.push_back(c);
     }
-    return v;
-}
-
-// The numbers da..a.
-std::vector<int> DaA(int da, int a) {
-    std::vector<int> v;
-    for (int x = da; x <= a; ++x) v.push_back(x);
     return v;
 }
 

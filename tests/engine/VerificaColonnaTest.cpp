@@ -66,7 +66,7 @@ TEST(VerificaColonna, PanelRecoversOnlyWithinItsBounds) {
     EXPECT_EQ(s.condizioni[1].Superata, kFalso);
 }
 
-TEST(VerificaColonna, LinkGroupCountsPassedMembers) {
+TEST(VerificaColonna, LinkGroupsCountPassedMembersInnerFirst) {
     // Consecutivi (value 0 on 1 3 5 7 9, 4 on 1..5), Ponte, Interruzioni, each accepting 0.
     auto s = Leggi({{"", "LinkOpen", "", "", "", ""},
                     {"", "Consecutivi", "", "0", "", ""},
@@ -79,18 +79,16 @@ TEST(VerificaColonna, LinkGroupCountsPassedMembers) {
     EXPECT_EQ(VerificaColonna(5, Col({1, 2, 3, 4, 5}), s.condizioni, s.quadri), kFalso);
     // 10 20 30 40 50: all three pass: three is not accepted.
     EXPECT_EQ(VerificaColonna(5, Col({10, 20, 30, 40, 50}), s.condizioni, s.quadri), kFalso);
-}
 
-TEST(VerificaColonna, NestedGroupsSettleInnerFirst) {
-    // LinkOpen, A, LinkOpen, B, C, LinkClose "1", LinkClose "2".
-    // A = Consecutivi accepting 0; B = Ponte accepting 0; C = Interruzioni accepting 0.
-    auto s = Leggi({{"", "LinkOpen", "", "", "", ""},
-                    {"", "Consecutivi", "", "0", "", ""},
-                    {"", "LinkOpen", "", "", "", ""},
-                    {"", "Ponte", "", "0", "", ""},
-                    {"", "Interruzioni", "", "0", "", ""},
-                    {"", "LinkClose", "", "1", "", ""},
-                    {"", "LinkClose", "", "2", "", ""}});
+    // Nested groups settle the inner first: LinkOpen, A, LinkOpen, B, C,
+    // LinkClose "1", LinkClose "2", with A, B, C the three above.
+    s = Leggi({{"", "LinkOpen", "", "", "", ""},
+               {"", "Consecutivi", "", "0", "", ""},
+               {"", "LinkOpen", "", "", "", ""},
+               {"", "Ponte", "", "0", "", ""},
+               {"", "Interruzioni", "", "0", "", ""},
+               {"", "LinkClose", "", "1", "", ""},
+               {"", "LinkClose", "", "2", "", ""}});
     // 1 3 5 7 9: A pass, B fail, C pass -> inner one of two: pass; outer A + inner = 2: pass.
     EXPECT_EQ(VerificaColonna(5, Col({1, 3, 5, 7, 9}), s.condizioni, s.quadri), kVero);
     // 10 20 30 40 50: A, B, C pass -> inner 2: fail; outer A + 0 = 1: fail.

@@ -123,7 +123,8 @@ TEST(F_NavigaSistema, ToolbarShowsOneModelessWindowAboveTheOthers) {
     EXPECT_TRUE(b.dialoghi.boxes.empty());
 }
 
-TEST(F_NavigaSistema, DeletingAConditionRebuildsTheOpenTree) {
+// The open tree follows the deletions, and Deinit unloads the window.
+TEST(F_NavigaSistema, DeletingAConditionRebuildsTheOpenTreeUntilDeinit) {
     Banco b;
     CollegaStrumenti(b.c, b.dialoghi);
     SistemaConGruppi(b);
@@ -139,6 +140,12 @@ TEST(F_NavigaSistema, DeletingAConditionRebuildsTheOpenTree) {
     b.c.EseguiComando("Delete");
     EXPECT_EQ(Albero(*navigatore),
               "Sistema(Peso,Resto,LinkOpen(LinkClose (1)),LinkClose (0-2),LinkOpen(Ponte,LinkClose (1)),Vortice)");
+    b.c.Deinit();
+    EXPECT_EQ(b.c.findChild<F_NavigaSistema*>(), nullptr);
+    EXPECT_FALSE(FormCaricato("F_NavigaSistema"));
+    EXPECT_EQ(ControlloRegistrato(), nullptr);
+    b.c.Deinit();  // twice, or with no window: nothing to do
+    EXPECT_EQ(b.c.findChild<F_NavigaSistema*>(), nullptr);
 }
 
 TEST(F_NavigaSistema, NodeClickBringsTheConditionIntoView) {
@@ -160,20 +167,6 @@ TEST(F_NavigaSistema, NodeClickBringsTheConditionIntoView) {
         Clicca(albero, nodo);
         EXPECT_EQ(b.c.GetGridCond()->ColonnaCorrente(), caso.colonna) << caso.chiave;
     }
-}
-
-TEST(F_NavigaSistema, DeinitUnloadsTheWindow) {
-    Banco b;
-    CollegaStrumenti(b.c, b.dialoghi);
-    SistemaConGruppi(b);
-    b.c.EseguiComando("Naviga");
-    ASSERT_NE(Navigatore(b), nullptr);
-    b.c.Deinit();
-    EXPECT_EQ(b.c.findChild<F_NavigaSistema*>(), nullptr);
-    EXPECT_FALSE(FormCaricato("F_NavigaSistema"));
-    EXPECT_EQ(ControlloRegistrato(), nullptr);
-    b.c.Deinit();  // twice, or with no window: nothing to do
-    EXPECT_EQ(b.c.findChild<F_NavigaSistema*>(), nullptr);
 }
 
 SCREENSHOT(NavigaSistema) {

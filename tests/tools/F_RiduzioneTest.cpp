@@ -28,6 +28,7 @@
 #include "CollegaStrumenti.h"
 #include "F_Riduzione.h"
 #include "FileColonne.h"
+#include "Garanzia.h"
 #include "Riduzione.h"
 #include "RiduzioneOttimizzata.h"
 #include "UtilitaSchermo.h"
@@ -39,6 +40,8 @@ using combi::Colonna;
 
 using combi::test::Col;
 using combi::test::ColonneCasuali;
+using combi::test::Comuni;
+using combi::test::DaA;
 
 using combi::test::Registro;
 
@@ -59,42 +62,13 @@ std::vector<Colonna> Tenute(const CombiFiltroA& c) {
 }
 
 
-// Every column of `classe` numbers out of 1..`numeri`, in lexicographic order.
-std::vector<Colonna> Integrale(int numeri, int classe) {
-    std::vector<Colonna> v;
-    std::vector<int> scelta(static_cast<size_t>(classe));
-    std::function<void(int, int)> scegli = [&](int posto, int da) {
-        if (posto == classe) {
-            Colonna c;
-            for (int p = 0; p < classe; ++p) c[p + 1] = static_cast<uint8_t>(scelta[size_t(p)]);
-            v.push_back(c);
-            return;
-        }
-        for (int n = da; n <= numeri; ++n) scelta[size_t(posto)] = n, scegli(posto + 1, n + 1);
-    };
-    scegli(0, 1);
-    return v;
-}
-
-// The numbers two columns of class k have in common, compared one by one.
-int Comuni(const Colonna& a, const Colonna& b, int classe) {
-    int comuni = 0;
-    for (int i = 1; i <= classe; ++i)
-        for (int j = 1; j <= classe; ++j) comuni += a[i] == b[j] ? 1 : 0;
-    return comuni;
-}
-
 // The guarantee checked by brute force: every input column shares at least
 // `punti` numbers with a kept one, and every kept column is an input column.
 void ControllaGaranzia(const std::vector<Colonna>& tenute, const std::vector<Colonna>& ingresso, int punti,
                        int classe) {
     for (const Colonna& t : tenute)
         EXPECT_NE(std::find(ingresso.begin(), ingresso.end(), t), ingresso.end()) << "a kept column not in the file";
-    for (size_t i = 0; i < ingresso.size(); ++i) {
-        const bool coperta = std::any_of(tenute.begin(), tenute.end(),
-                                         [&](const Colonna& t) { return Comuni(t, ingresso[i], classe) >= punti; });
-        EXPECT_TRUE(coperta) << "column " << i + 1 << " is not covered";
-    }
+    EXPECT_TRUE(combi::test::BuchiAForzaBruta(tenute, ingresso, punti, classe).empty()) << "a column is not covered";
 }
 
 // A control with scripted dialogs, a reduction window on it and a folder
@@ -334,7 +308,7 @@ TEST(F_Riduzione, OttimizzaTakesTheSecondsOnlyWhenTicked) {
 // the size kept.
 TEST(F_Riduzione, OttimizzaKeepsTheGuaranteeWithNoMoreColumnsThanThePlainReduction) {
     BancoRiduzione r;
-    const std::vector<Colonna> colonne = Integrale(10, 6);
+    const std::vector<Colonna> colonne = combi::ColonneIntegrali(DaA(1, 10), 6);
     ASSERT_EQ(colonne.size(), 210u);
     r.Scegli(r.Scrivi("Dieci.col", colonne));
     r.f.ChkOttimizza()->setChecked(true);
@@ -378,7 +352,7 @@ TEST(F_Riduzione, OttimizzaKeepsTheGuaranteeWithNoMoreColumnsThanThePlainReducti
 // stays open to show it.
 TEST(F_Riduzione, StopDuringOttimizzaKeepsTheBestSetAndTheWindow) {
     BancoRiduzione r;
-    const std::vector<Colonna> colonne = Integrale(11, 6);
+    const std::vector<Colonna> colonne = combi::ColonneIntegrali(DaA(1, 11), 6);
     r.Scegli(r.Scrivi("Undici.col", colonne));
     r.f.ChkOttimizza()->setChecked(true);
     r.f.TxtSecondi()->setValue(3600);

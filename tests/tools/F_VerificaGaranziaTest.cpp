@@ -64,31 +64,6 @@ std::vector<Colonna> VentottoColonne() {
     return v;
 }
 
-// The holes among every column of 1..`numeri` in `classe`, in lexicographic
-// order, each compared with every kept column number by number.
-std::vector<Colonna> BuchiAForzaBruta(const std::vector<Colonna>& tenute, int numeri, int classe, int punti) {
-    std::vector<Colonna> buchi;
-    std::vector<int> c(static_cast<size_t>(classe));
-    std::function<void(int, int)> scegli = [&](int posto, int da) {
-        if (posto == classe) {
-            const bool coperta = std::any_of(tenute.begin(), tenute.end(), [&](const Colonna& t) {
-                int comuni = 0;
-                for (int n : c)
-                    for (int p = 1; p <= classe; ++p) comuni += t[p] == n ? 1 : 0;
-                return comuni >= punti;
-            });
-            if (coperta) return;
-            Colonna buco;
-            for (int p = 0; p < classe; ++p) buco[p + 1] = static_cast<uint8_t>(c[size_t(p)]);
-            buchi.push_back(buco);
-            return;
-        }
-        for (int n = da; n <= numeri; ++n) c[size_t(posto)] = n, scegli(posto + 1, n + 1);
-    };
-    scegli(0, 1);
-    return buchi;
-}
-
 const Colonna kA = Col({1, 2, 3, 4, 5, 6});
 const Colonna kB = Col({3, 4, 5, 6, 7, 8});
 
@@ -318,8 +293,8 @@ TEST(F_VerificaGaranzia, AnnullaStopsALargeRun) {
             // first ones of the whole list.
             EXPECT_EQ(f.LabInfo()->text(), QString("Ricerca interrotta: %1 colonne da coprire con 3 punti")
                                                .arg(QString::fromStdString(combi::FormatNumero(593775))));
-            const std::vector<Colonna> tutti = BuchiAForzaBruta(std::vector<Colonna>(tenute.begin() + 1, tenute.end()),
-                                                                30, 6, 3);
+            const std::vector<Colonna> tutti = combi::test::BuchiAForzaBruta(
+                std::vector<Colonna>(tenute.begin() + 1, tenute.end()), combi::ColonneIntegrali(combi::test::DaA(1, 30), 6), 3);
             EXPECT_LT(f.Buchi().size(), tutti.size());
             EXPECT_TRUE(std::equal(f.Buchi().begin(), f.Buchi().end(), tutti.begin()))
                 << "the holes found before the stop, in order";

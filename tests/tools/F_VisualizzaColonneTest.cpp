@@ -11,6 +11,7 @@
 #include <QTreeWidget>
 
 #include "../control/Banco.h"
+#include "../engine/ColonnaDiProva.h"
 #include "CollegaStrumenti.h"
 #include "F_VisualizzaColonne.h"
 #include "Formato.h"
@@ -37,11 +38,7 @@ std::vector<int> Righe(const F_VisualizzaColonne& f) {
     return ids;
 }
 
-std::vector<int> DaA(int primo, int ultimo) {
-    std::vector<int> ids;
-    for (int id = primo; id <= ultimo; ++id) ids.push_back(id);
-    return ids;
-}
+using combi::test::DaA;
 
 TEST(F_VisualizzaColonne, PagesTwentyOneColumnsFromTheSlider) {
     struct Caso {
