@@ -89,7 +89,13 @@ TEST(Sviluppo, LargerRandomSystemsAcrossSeveralBlocks) {
     test::GeneratoreSistemi gen(7);
     for (int caso = 0; caso < 12; ++caso) {
         ParametriSviluppo p = gen.Sistema(22, 6);
-        while (Combinazioni(int(p.numeri.size()), p.classe) < 30000) p = gen.Sistema(22, 6);
+        while (Combinazioni(int(p.numeri.size()), p.classe) < 30000 || p.condizioni.size() < 5) p = gen.Sistema(22, 6);
+        // Every other case puts all the conditions on panel 1: a panel of
+        // more members than the fast count takes without a loop.
+        if (caso % 2 == 1) {
+            for (Condizione& c : p.condizioni) c.QuadroRec = 1;
+            p.quadri[1].Attivo = 1, p.quadri[1].Minimo = 1, p.quadri[1].Massimo = 3;
+        }
         Osservatore o1, o2;
         ExpectStessoRisultato(SviluppaSistemaRiferimento(p, o1), SviluppaSistema(p, o2, {.thread = 3, .quota = {}}),
                               "case " + std::to_string(caso));

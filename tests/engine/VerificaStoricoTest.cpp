@@ -113,6 +113,12 @@ TEST(VerificaStorico, HandWorkedDrawsGiveTheirCountsTheBestDrawAndTheLongestDryR
               (std::vector<RigaRiepilogo>{{"Vincite con 3 punti ", 1}, {"Vincite con 2 punti ", 5}}));
     p.classe = 8;
     EXPECT_EQ(VerificaStorico(kColonne, kArchivio, p, oss).Riepilogo().front().vincita, "Vincite con 5 punti ");
+    // An empty columns file, with the group size left to the engine: every
+    // draw is checked and none wins.
+    const EsitoStorico vuoto = VerificaStorico({}, kArchivio, ParametriStorico{}, oss);
+    EXPECT_EQ(vuoto.estrazioni.size(), 7u);
+    EXPECT_EQ(vuoto.estrazioniConVincite, 0);
+    EXPECT_FALSE(vuoto.migliore.has_value());
 }
 
 TEST(VerificaStorico, RefusesColumnsAndParametersItCannotCheck) {
