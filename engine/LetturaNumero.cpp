@@ -31,12 +31,11 @@ double LeggiNumero(std::string_view testo) {
     const size_t cifre = i;
     while (i < testo.size() && IsDigit(testo[i])) ++i;
     bool haCifre = i > cifre;
+    // A point with no digit on either side reads as nothing, wherever it ends.
     if (i < testo.size() && testo[i] == '.') {
-        const size_t dopoPunto = i + 1;
-        size_t j = dopoPunto;
-        while (j < testo.size() && IsDigit(testo[j])) ++j;
-        if (j > dopoPunto || haCifre) i = j;
-        haCifre = haCifre || j > dopoPunto;
+        const size_t dopoPunto = ++i;
+        while (i < testo.size() && IsDigit(testo[i])) ++i;
+        haCifre = haCifre || i > dopoPunto;
     }
     if (!haCifre) return 0.0;
     // from_chars reads "." as the decimal point whatever the locale, where

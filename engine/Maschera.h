@@ -3,6 +3,7 @@
 // The fast development judges all the candidates of a column's last position
 // at once, so every verdict on them is one of these masks.
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -55,12 +56,14 @@ namespace dettaglio {
 // kDaZero[n]: the numbers 0..n-1, for n in 0..128.
 constexpr auto kDaZero = [] {
     std::array<Maschera128, 129> t{};
-    for (int n = 0; n <= 128; ++n)
-        for (int x = 0; x < n; ++x) t[size_t(n)].Imposta(x);
+    for (int n = 1; n <= 128; ++n) {
+        t[size_t(n)] = t[size_t(n - 1)];
+        t[size_t(n)].Imposta(n - 1);
+    }
     return t;
 }();
 
-constexpr int64_t Limita(int64_t v) { return v < 0 ? 0 : (v > 128 ? 128 : v); }
+constexpr int64_t Limita(int64_t v) { return std::clamp<int64_t>(v, 0, 128); }
 
 }  // namespace dettaglio
 

@@ -19,7 +19,8 @@ struct Binomiali {
     constexpr Binomiali() {
         for (int n = 0; n <= kMaxNumero; ++n) {
             c[n][0] = 1;
-            for (int k = 1; k <= kMassimoK && k <= n; ++k) c[n][k] = c[n - 1][k - 1] + (k <= n - 1 ? c[n - 1][k] : 0);
+            // c[n - 1][n] is still 0: no subset of n - 1 numbers has n.
+            for (int k = 1; k <= kMassimoK && k <= n; ++k) c[n][k] = c[n - 1][k - 1] + c[n - 1][k];
         }
     }
 };

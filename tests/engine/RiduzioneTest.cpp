@@ -63,6 +63,12 @@ TEST(Riduzione, FastPathMatchesReferenceOnRandomSets) {
         SCOPED_TRACE("seme " + std::to_string(c.seme) + " t=" + std::to_string(c.t));
         ConfrontaConRiferimento(ColonneCasuali(c.seme, c.n, c.pool), c.t, 6, c.n <= 1500);
     }
+    // The top of the range, 51..90, where the pairs' ranks reach the end of
+    // the dense index.
+    std::vector<Colonna> alte = ColonneCasuali(12, 800, 40);
+    for (Colonna& c : alte)
+        for (int p = 1; p <= 6; ++p) c[p] = uint8_t(c[p] + 50);
+    ConfrontaConRiferimento(alte, 2, 6, true);
 }
 
 // Every class 2..10 and every few points: the index (dense and sorted-pair
