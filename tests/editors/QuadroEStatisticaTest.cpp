@@ -4,8 +4,8 @@
 // unseen.
 // A panel number outside 1..20 in a hand-made file is counted nowhere; were
 // the bound check lost, the count would land outside its array, which only
-// the AddressSanitizer run of scripts/test.sh can see (the counts shown stay
-// the same).
+// the sanitizer run of scripts/test.sh, with its index checks, can see (the
+// counts shown stay the same).
 #include <QAbstractButton>
 #include <QDir>
 #include <QPainter>

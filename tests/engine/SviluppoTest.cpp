@@ -6,8 +6,8 @@
 // count of a measure's table (one more is unused), the unreachable return
 // after a switch over every kind; and the merge of the threads' counters
 // running one element past its array, which changes no count in a release
-// build: only a sanitizer build (the AddressSanitizer run of scripts/test.sh)
-// can see it.
+// build: only a checked build (the sanitizer run of scripts/test.sh, which
+// also checks every index) can see it.
 #include <gtest/gtest.h>
 
 #include <system_error>

@@ -1,6 +1,7 @@
 // The check over the archive of draws. The bit planes' count running one
-// plane past its array changes no count in a release build; only a
-// sanitizer build (the AddressSanitizer run of scripts/test.sh) can see it.
+// plane past its array changes no count in a release build; only a checked
+// build (the sanitizer run of scripts/test.sh, which also checks every
+// index) can see it.
 // The parameters' defaults for the minimum and the class are set by every
 // caller, and the draws' order on an equal date and wheel is never asked
 // for: the archive refuses a wheel twice on one date.

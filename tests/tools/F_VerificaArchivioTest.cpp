@@ -2,8 +2,8 @@
 // field width of 1 instead of 0 changes nothing (a number is never shorter);
 // nor does losing the bar's reset when a check starts, since the check's
 // first report is 0 done. Saving the prizes one place past their table reads
-// zeros in a release build; the AddressSanitizer run of scripts/test.sh is
-// where it shows.
+// zeros in a release build; the sanitizer run of scripts/test.sh, with its
+// index checks, is where it shows.
 #include <gtest/gtest.h>
 
 #include <QApplication>
