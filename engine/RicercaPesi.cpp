@@ -18,7 +18,7 @@ RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, u
     peso_.assign(unita_, 1);
     punteggio_.assign(unita_, 0);
     ultimoCambio_.assign(unita_, 0);
-    puoEntrare_.assign(unita_, 1);
+    puoEntrare_.assign(unita_, true);
     tenute_ = InsiemeIndicizzato(unita_);
     scoperte_ = InsiemeIndicizzato(unita_);
     for (uint32_t i = 0; i < unita_; ++i) {
@@ -111,7 +111,7 @@ void RicercaPesi::Aggiungi(uint32_t c) {
             scoperte_.Togli(e);
             for (uint32_t j : Vicine(e)) {
                 punteggio_[j] -= w;
-                puoEntrare_[j] = 1;
+                puoEntrare_[j] = true;
             }
             punteggio_[c] -= w;
         } else if (coperture_[e] == 1) {
@@ -134,13 +134,13 @@ void RicercaPesi::Togli(uint32_t c) {
             punteggio_[c] += w;  // c no longer its single coverer
             for (uint32_t j : Vicine(e)) {
                 punteggio_[j] += w;
-                puoEntrare_[j] = 1;
+                puoEntrare_[j] = true;
             }
         } else if (coperture_[e] == 1) {
             punteggio_[xorTenute_[e]] -= w;  // the one left covers it alone
         }
     }
-    puoEntrare_[c] = 0;
+    puoEntrare_[c] = false;
 }
 
 // The kept orbit of highest score, not the one just added; ties to the oldest.

@@ -40,10 +40,10 @@ void Seleziona(const IndiceCoperture& indice, const TabellaRappresentativita& ta
     for (int64_t p = 1; p <= n; ++p) {
         const uint32_t c = uint32_t(tabella[size_t(p)].indice);
         if (!eliminata[c]) {
-            tenuta[c] = 1;
+            tenuta[c] = true;
             indice.PerVicini(c - 1, [&](uint32_t j0) {
                 const uint32_t j = j0 + 1;
-                if (j != c && !tenuta[j]) eliminata[j] = 1;
+                if (j != c && !tenuta[j]) eliminata[j] = true;
             });
         }
         if (controllo.Fermo()) break;

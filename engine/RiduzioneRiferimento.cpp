@@ -59,12 +59,12 @@ void Seleziona(const std::vector<Colonna>& colonne, int classe, int punti, const
     for (int64_t p = 1; p <= n; ++p) {
         const int64_t c = tabella[size_t(p)].indice;
         if (!eliminata[size_t(c)]) {
-            tenuta[size_t(c)] = 1;
+            tenuta[size_t(c)] = true;
             segni.Segna(colonne[size_t(c) - 1]);
             for (int64_t j = 1; j <= n; ++j)
                 if (!tenuta[size_t(j)] && j != c && !eliminata[size_t(j)] &&
                     segni.Comuni(colonne[size_t(j) - 1]) >= punti)
-                    eliminata[size_t(j)] = 1;
+                    eliminata[size_t(j)] = true;
         }
         if (controllo.Fermo()) break;
         controllo.Avanza(p, n);

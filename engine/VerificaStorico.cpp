@@ -151,7 +151,7 @@ EsitoStorico VerificaStorico(const std::vector<Colonna>& colonne, const std::vec
         if (g >= gruppi) return false;
         const size_t da = g * gruppo, quante = std::min(gruppo, scelte.size() - da);
         bit.Conta(&scelte[da], quante, &conte[da]);
-        fatto[g] = 1;
+        fatto[g] = true;
         controllate += quante;
         return true;
     };
