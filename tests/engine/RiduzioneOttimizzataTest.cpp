@@ -138,21 +138,17 @@ TEST(RiduzioneOttimizzata, IntegralDesignsEndBelowTheGreedySize) {
     }
 }
 
-// The search itself, plain and weighted: every set it reports as a new best
-// covers the whole input (checked pair by pair here, on all the numbers of
-// the class), the bests shrink by at least one column each time, and every
-// hundred steps the state it keeps up to date equals the one recounted from
-// its kept columns.
+// The search itself, plain and weighted: given every column, it starts from
+// a cover in which each kept column is the only one to cover some column;
+// every set it reports as a new best covers the whole input (checked pair by
+// pair here, on all the numbers of the class), the bests shrink by at least
+// one column each time, and every hundred steps the state it keeps up to
+// date equals the one recounted from its kept columns.
 TEST(RiduzioneOttimizzata, EveryBestOfTheSearchCovers) {
     struct Caso { uint32_t seme; int pool; int classe; int punti; };
     for (const Caso& c : {Caso{21, 12, 6, 3}, Caso{22, 13, 5, 3}, Caso{23, 15, 8, 5}, Caso{24, 10, 3, 2}}) {
         const std::vector<Colonna> v = Casuali(c.seme, 300, c.pool, c.classe);
-        const auto Comuni = [&](const Colonna& a, const Colonna& b) {
-            int k = 0;
-            for (int p = 1; p <= c.classe; ++p)
-                for (int q = 1; q <= c.classe; ++q) k += a[p] == b[q];
-            return k;
-        };
+        const auto Copre = [&](uint32_t k, const Colonna& x) { return test::Comuni(x, v[k], c.classe) >= c.punti; };
         std::vector<uint32_t> tutte(v.size());
         for (uint32_t i = 0; i < tutte.size(); ++i) tutte[i] = i;
         const auto vicinato = std::make_shared<const riduzione::Vicinato>(v, c.classe, c.punti);
@@ -170,9 +166,16 @@ TEST(RiduzioneOttimizzata, EveryBestOfTheSearchCovers) {
                 ASSERT_LT(m.size(), precedente);
                 precedente = m.size();
                 ASSERT_TRUE(std::is_sorted(m.begin(), m.end()));
-                for (const Colonna& x : v)
-                    ASSERT_TRUE(std::any_of(m.begin(), m.end(), [&](uint32_t k) { return Comuni(x, v[k]) >= c.punti; }))
-                        << "passo " << passo;
+                std::vector<int> coperture(v.size(), 0);
+                for (size_t x = 0; x < v.size(); ++x)
+                    for (uint32_t k : m) coperture[x] += Copre(k, v[x]);
+                ASSERT_EQ(std::count(coperture.begin(), coperture.end(), 0), 0) << "passo " << passo;
+                for (uint32_t k : m) {
+                    if (passo > 0) break;
+                    bool serve = false;
+                    for (size_t x = 0; x < v.size(); ++x) serve = serve || (coperture[x] == 1 && Copre(k, v[x]));
+                    ASSERT_TRUE(serve) << "the start kept column " << k << ", which another covers for";
+                }
             }
             EXPECT_LT(precedente, v.size() / 4);
         }
