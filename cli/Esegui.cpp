@@ -71,8 +71,8 @@ int Esegui(const Parole& parole, std::ostream& out, std::ostream& err) {
     }
     for (const Comando& c : kComandi) {
         if (parole[0] != c.nome) continue;
-        const Parole argomenti(parole.begin() + 1, parole.end());
-        return EseguiComando(c.nome, c.uso, [&] { return c.esegui(argomenti, out, err); }, err);
+        return EseguiComando(
+            c.nome, c.uso, [&] { return c.esegui(Parole(parole.begin() + 1, parole.end()), out, err); }, err);
     }
     err << "combifiltro-cli: comando sconosciuto \"" << parole[0] << "\"\n";
     Uso(err);
