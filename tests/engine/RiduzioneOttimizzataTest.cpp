@@ -279,7 +279,8 @@ TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
 
 // Who covers whom, stored flat or walked through the subset index (a limit of
 // 0 entries forces the index): the same columns, once each, as a pairwise
-// count of common numbers finds them; and every column found by its numbers.
+// count of common numbers finds them, also on the walk whose round counter
+// wraps (the four billionth); and every column found by its numbers.
 TEST(RiduzioneOttimizzata, NeighbourhoodMatchesPairwiseCount) {
     struct Caso { uint32_t seme; int pool; int classe; int punti; };
     for (const Caso& c : {Caso{31, 12, 6, 3}, Caso{32, 30, 6, 4}, Caso{33, 14, 8, 5}, Caso{34, 9, 3, 1}}) {
@@ -288,13 +289,9 @@ TEST(RiduzioneOttimizzata, NeighbourhoodMatchesPairwiseCount) {
             SCOPED_TRACE("seme " + std::to_string(c.seme) + " limite " + std::to_string(limite));
             const riduzione::Vicinato vicinato(v, c.classe, c.punti, limite);
             riduzione::Timbri timbri;
-            const auto Comuni = [&](size_t a, size_t b) {
-                int k = 0;
-                for (int p = 1; p <= c.classe; ++p)
-                    for (int q = 1; q <= c.classe; ++q) k += v[a][p] == v[b][q];
-                return k;
-            };
+            const auto Comuni = [&](size_t a, size_t b) { return test::Comuni(v[a], v[b], c.classe); };
             for (uint32_t i = 0; i < v.size(); ++i) {
+                if (i == 7) timbri.giro = UINT32_MAX;
                 std::vector<uint32_t> attesi, trovati;
                 for (uint32_t j = 0; j < v.size(); ++j)
                     if (Comuni(i, j) >= c.punti) attesi.push_back(j);
@@ -307,7 +304,7 @@ TEST(RiduzioneOttimizzata, NeighbourhoodMatchesPairwiseCount) {
             }
             // Numbers no column holds: 1..k shifted beyond the pool.
             riduzione::Maschera assente = {0, 0};
-            for (int n = 90 - c.classe + 1; n <= 90; ++n) assente[size_t(n >> 6)] |= uint64_t(1) << (n & 63);
+            for (int n = 90 - c.classe + 1; n <= 90; ++n) riduzione::Metti(assente, n);
             EXPECT_EQ(vicinato.Cerca(assente), -1);
         }
     }
