@@ -80,8 +80,9 @@ TEST(Misure, HandWorkedTable) {
         EXPECT_EQ(MisuraPosizioni(pc, 1), caso.c[1]);
         EXPECT_EQ(MisuraPosizioni(pc, caso.k), caso.c[caso.k]);
     }
-    // Class 0 has no numbers, so no range, whatever the record holds.
+    // Class 0 has no numbers, so no range and no centre, whatever the record holds.
     EXPECT_EQ(CalcolaAmpiezza(0, Col({5, 9})), 0);
+    EXPECT_EQ(CalcolaBaricentro(0, Col({5, 9})), 0);
 }
 
 // The class of a column is its last position holding a number.
