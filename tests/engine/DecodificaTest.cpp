@@ -1,7 +1,7 @@
 // Decoding the grid texts. Two changes survive mutation testing and may:
 // the text after a one-character label is empty whether one or no character
-// is dropped, and reading "5." or "." takes the same digits whether the scan
-// past the point moves on when nothing follows it or not.
+// is dropped, and the index of the grid's row 0 (the column's number) is
+// read by no one in the engine.
 #include <gtest/gtest.h>
 
 #include <clocale>

@@ -3,11 +3,13 @@
 // recount; their parts against worked examples. Left alive by mutation
 // testing, as they move where a search walks, never what it may hand out:
 // the tries before a fallback, taking an input column found at index 0,
-// the counters a stage or restart starts from, how many searches run, the
-// orbit that stands in when none may enter, how often the clock is read, the
-// default seed; and number 0 (never held), a rotation applied once more, a
-// lone column sent through the search. A mask read a word before its start
-// finds zeros in a release build: the AddressSanitizer run shows it.
+// the counters a stage or restart starts from (a stage's best uncovered
+// count reset on a tie too), when the starting temperature is worked out,
+// how many searches run, the orbit that stands in when none may enter, the
+// tie between two orbits changed at the same step, how often the clock is
+// read, the default seed, a lone column sent through the search; and whether
+// the neighbour lists are stored flat when they fill their limit exactly
+// (memory only).
 #include <gtest/gtest.h>
 
 #include "ColonnaDiProva.h"

@@ -2,7 +2,9 @@
 // every class, and worked examples. Mutation testing leaves a few changes
 // alive that no user can see: when the per-row condition order is re-sorted,
 // how many pieces wait for the writer, the early exits taken when no
-// candidate is left, an empty last step or piece (speed only), the level or key
+// candidate is left, an empty last step or piece, whether a block is a
+// whole row (it only chooses how the counts are added up), a share's bounds
+// before they are set (speed only), the level or key
 // count of a measure's table (one more is unused), the unreachable return
 // after a switch over every kind; and the merge of the threads' counters
 // running one element past its array, which changes no count in a release
