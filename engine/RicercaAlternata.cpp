@@ -1,7 +1,5 @@
 #include "RicercaAlternata.h"
 
-#include <bit>
-
 #include "RicercaPesi.h"
 
 namespace combi::riduzione {
@@ -9,8 +7,7 @@ namespace combi::riduzione {
 RicercaAlternata::RicercaAlternata(std::shared_ptr<const Vicinato> vicinato, const std::vector<uint32_t>& iniziali,
                                    uint64_t seme) {
     ricerche_.push_back(std::make_unique<RicercaLocale>(vicinato, iniziali, seme, true));
-    const Maschera tutti = vicinato->NumeriUsati();
-    const int m = std::popcount(tutti[0]) + std::popcount(tutti[1]);
+    const int m = QuantiNumeri(vicinato->NumeriUsati());
     for (int ordine = 2; ordine <= m; ++ordine) {
         if (m % ordine != 0) continue;
         auto orbite = std::make_unique<RicercaPesi>(vicinato, ordine, seme);

@@ -92,8 +92,8 @@ static Differenza Differenze(const Maschera& a, const Maschera& b) {
     Differenza d;
     d.fuori = {a[0] & ~b[0], a[1] & ~b[1]};
     d.mancanti = {b[0] & ~a[0], b[1] & ~a[1]};
-    d.quanteFuori = uint64_t(std::popcount(d.fuori[0]) + std::popcount(d.fuori[1]));
-    d.quanteMancanti = uint64_t(std::popcount(d.mancanti[0]) + std::popcount(d.mancanti[1]));
+    d.quanteFuori = uint64_t(QuantiNumeri(d.fuori));
+    d.quanteMancanti = uint64_t(QuantiNumeri(d.mancanti));
     return d;
 }
 

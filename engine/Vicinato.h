@@ -28,6 +28,7 @@ using Maschera = std::array<uint64_t, 2>;  // numbers 1..90 as bits
 
 inline void Metti(Maschera& m, int n) { m[size_t(n >> 6)] |= uint64_t(1) << (n & 63); }
 inline void Leva(Maschera& m, int n) { m[size_t(n >> 6)] &= ~(uint64_t(1) << (n & 63)); }
+inline int QuantiNumeri(const Maschera& m) { return Maschera128{m[0], m[1]}.Conta(); }
 // f(n) for every number of m, ascending.
 template <typename F>
 void PerOgniNumero(const Maschera& m, F&& f) {
