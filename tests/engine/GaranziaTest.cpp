@@ -163,6 +163,9 @@ TEST(TabellaGaranzia, HandWorkedSystemsAndTheDefinition) {
     // 3; m = 5 as 2,2,1 gives 4; m = 6 as 2,2,2 gives 4; m = 7 as 3,2,2 gives 5;
     // m = 8 as 3,3,2 gives 6; m = 9 gives 6.
     const std::vector<Colonna> tre = {Col({1, 2, 3, 4, 5, 6}), Col({4, 5, 6, 7, 8, 9}), Col({1, 2, 3, 7, 8, 9})};
+    // One column of class 20 holds every number of 1..20: each drawn one hits.
+    Colonna venti;
+    for (int p = 1; p <= 20; ++p) venti[p] = uint8_t(p);
     std::vector<int> nove = otto, dieci;
     nove.push_back(9);
     dieci = nove;
@@ -175,6 +178,7 @@ TEST(TabellaGaranzia, HandWorkedSystemsAndTheDefinition) {
         {tre, nove, 9, Righe({1, 2, 2, 3, 4, 4, 5, 6, 6})},
         // 10 is in no column: a drawing may waste one number on it.
         {tre, dieci, 10, Righe({0, 1, 2, 2, 3, 4, 4, 5, 6, 6})},
+        {{venti}, test::DaA(1, 20), 20, Righe({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20})},
         {{}, {3, 4}, 5, Righe({0, 0})},
         {tre, {}, 5, {}},
     };

@@ -201,6 +201,11 @@ TEST(Sviluppo, EdgeSizesAndBadParameters) {
     EXPECT_EQ(o.rapporti.back(), (std::pair<uint64_t, uint64_t>{1, 1}));
     EXPECT_THROW(SviluppaSistema(Sistema(5, 6), o), Errore);
     EXPECT_THROW(SviluppaSistema(Sistema(30, 21), o), Errore);
+    for (int fuori : {0, 91}) {
+        ParametriSviluppo p = Sistema(6, 3);
+        p.numeri[fuori == 0 ? 0 : 5] = fuori;
+        EXPECT_THROW(SviluppaSistema(p, o), Errore) << fuori;
+    }
     ParametriSviluppo disordinati = Sistema(6, 3);
     std::swap(disordinati.numeri[0], disordinati.numeri[1]);
     EXPECT_THROW(SviluppaSistemaRiferimento(disordinati, o), Errore);
