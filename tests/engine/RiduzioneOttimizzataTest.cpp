@@ -307,6 +307,12 @@ TEST(RiduzioneOttimizzata, NeighbourhoodMatchesPairwiseCount) {
             EXPECT_EQ(vicinato.Cerca(assente), -1);
         }
     }
+    // A column's mask on both sides of 64, one number taken out again.
+    riduzione::Maschera m = {0, 0};
+    for (int n : {1, 63, 64, 90}) riduzione::Metti(m, n);
+    riduzione::Leva(m, 63);
+    EXPECT_EQ(m, (riduzione::Maschera{0b10, uint64_t{1} | uint64_t{1} << 26}));
+    EXPECT_EQ(riduzione::QuantiNumeri(m), 3);
 }
 
 TEST(RiduzioneOttimizzata, StopSmallSetsAndRefusals) {
