@@ -1,6 +1,8 @@
 // The reduction, plain and indexed. A subset walk starting at position 0
-// (always empty) instead of 1, and the number table of the bit-sliced
-// columns sized one row larger, are changes no result can show; nor are the
+// (always empty) instead of 1, the number table of the bit-sliced columns or
+// the plain reduction's marks sized one row larger, and the dense lists'
+// first offset moved (every list moves by one alike), are changes no result
+// can show; nor are the
 // thresholds that choose between the dense and the sorted index, or between
 // a comparison sort and counting passes (speed and memory only).
 #include <gtest/gtest.h>

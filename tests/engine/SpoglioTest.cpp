@@ -1,5 +1,6 @@
 // The winnings check. Trimming the blanks after the drawn numbers could be
-// lost without a user noticing: the numbers are split on blanks anyway.
+// lost without a user noticing: the numbers are split on blanks anyway; nor
+// does anyone read a summary row's count before it is set.
 #include <gtest/gtest.h>
 
 #include "ColonnaDiProva.h"

@@ -1,7 +1,8 @@
 // The development: the fast path against the plain loop on random systems of
 // every class, and worked examples. Mutation testing leaves a few changes
 // alive that no user can see: when the per-row condition order is re-sorted,
-// how many pieces wait for the writer, the early exits taken when no
+// how many pieces wait for the writer and how many steps a piece holds,
+// the mark of a link's place (any negative will do), the early exits taken when no
 // candidate is left, an empty last step or piece, whether a block is a
 // whole row (it only chooses how the counts are added up), a share's bounds
 // before they are set (speed only), the level or key
@@ -201,14 +202,11 @@ TEST(Sviluppo, EdgeSizesAndBadParameters) {
     EXPECT_EQ(o.rapporti.back(), (std::pair<uint64_t, uint64_t>{1, 1}));
     EXPECT_THROW(SviluppaSistema(Sistema(5, 6), o), Errore);
     EXPECT_THROW(SviluppaSistema(Sistema(30, 21), o), Errore);
-    for (int fuori : {0, 91}) {
-        ParametriSviluppo p = Sistema(6, 3);
-        p.numeri[fuori == 0 ? 0 : 5] = fuori;
-        EXPECT_THROW(SviluppaSistema(p, o), Errore) << fuori;
-    }
-    ParametriSviluppo disordinati = Sistema(6, 3);
+    ParametriSviluppo disordinati = Sistema(6, 3), zero = Sistema(6, 3), oltre = Sistema(6, 3);
     std::swap(disordinati.numeri[0], disordinati.numeri[1]);
+    zero.numeri[0] = 0, oltre.numeri[5] = 91;
     EXPECT_THROW(SviluppaSistemaRiferimento(disordinati, o), Errore);
+    for (const ParametriSviluppo& p : {zero, oltre}) EXPECT_THROW(SviluppaSistema(p, o), Errore) << p.numeri[0];
     for (const Quota quota : {Quota{4, 3}, Quota{0, 3}, Quota{1, 0}})
         EXPECT_THROW(SviluppaSistema(Sistema(6, 3), o, {.thread = 0, .quota = quota}), Errore) << quota.indice;
 }

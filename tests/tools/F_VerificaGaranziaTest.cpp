@@ -33,7 +33,6 @@
 #include <QTreeWidget>
 
 #include <algorithm>
-#include <functional>
 
 #include "../control/Banco.h"
 #include "Screenshot.h"
@@ -49,20 +48,8 @@ namespace {
 using combi::Colonna;
 using combi::test::Col;
 
-// The 28 columns of 1..8 in class 6, in lexicographic order: the two numbers
-// left out, (a, b) with a < b, taken from the last pair backwards.
-std::vector<Colonna> VentottoColonne() {
-    std::vector<Colonna> v;
-    for (int a = 7; a >= 1; --a)
-        for (int b = 8; b > a; --b) {
-            Colonna c;
-            int p = 1;
-            for (int n = 1; n <= 8; ++n)
-                if (n != a && n != b) c[p++] = static_cast<uint8_t>(n);
-            v.push_back(c);
-        }
-    return v;
-}
+// The 28 columns of 1..8 in class 6, in lexicographic order.
+std::vector<Colonna> VentottoColonne() { return combi::ColonneIntegrali(combi::test::DaA(1, 8), 6); }
 
 const Colonna kA = Col({1, 2, 3, 4, 5, 6});
 const Colonna kB = Col({3, 4, 5, 6, 7, 8});
