@@ -112,7 +112,7 @@ public:
     void Leggi(std::string_view testo) {
         if (testo.substr(0, 3) == "\xEF\xBB\xBF") testo.remove_prefix(3);  // a UTF-8 mark left by editors
         int32_t numero = 0;
-        while (!testo.empty() || numero == 0) {
+        while (!testo.empty()) {
             const size_t fine = testo.find('\n');
             LeggiRiga(testo.substr(0, fine), ++numero);
             if (fine == std::string_view::npos) break;

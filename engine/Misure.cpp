@@ -49,21 +49,21 @@ int32_t MisuraDistanzaMinima(const ProfiloColonna& pc) {
 
 int32_t MisuraDistanzaMassima(const ProfiloColonna& pc) {
     int32_t d = 0;
-    for (int i = 1; i < pc.k; ++i) d = std::max(d, pc.c[i + 1] - pc.c[i]);
+    for (int i = 2; i <= pc.k; ++i) d = std::max(d, pc.c[i] - pc.c[i - 1]);
     return d;
 }
 
 int32_t MisuraConsecutivi(const ProfiloColonna& pc) {
     int32_t n = 0;
-    for (int i = 1; i < pc.k; ++i)
-        if (pc.c[i] + 1 == pc.c[i + 1]) ++n;
+    for (int i = 2; i <= pc.k; ++i)
+        if (pc.c[i - 1] + 1 == pc.c[i]) ++n;
     return n;
 }
 
 int32_t MisuraPonte(const ProfiloColonna& pc) {
     int32_t n = 0;
-    for (int i = 1; i < pc.k; ++i)
-        if (pc.c[i] + 2 == pc.c[i + 1]) ++n;
+    for (int i = 2; i <= pc.k; ++i)
+        if (pc.c[i - 1] + 2 == pc.c[i]) ++n;
     return n;
 }
 
@@ -78,8 +78,8 @@ int32_t MisuraPosizioni(const ProfiloColonna& pc, int posizione) {
 
 int32_t MisuraInterruzioni(const ProfiloColonna& pc) {
     int32_t n = 0;
-    for (int i = 1; i < pc.k; ++i)
-        if (pc.p[i] != pc.p[i + 1]) ++n;
+    for (int i = 2; i <= pc.k; ++i)
+        if (pc.p[i - 1] != pc.p[i]) ++n;
     return n;
 }
 

@@ -72,15 +72,6 @@ uint32_t RicercaLocale::PiuVicinaTenuta(uint32_t u) {
     return scelta.Scelta();
 }
 
-// The i-th set bit of m (i from 0).
-static int BitNumero(const Maschera& m, uint64_t i) {
-    const uint64_t basse = uint64_t(std::popcount(m[0]));
-    const size_t parola = i < basse ? 0 : 1;
-    uint64_t x = m[parola];
-    for (uint64_t salta = parola == 0 ? i : i - basse; salta > 0; --salta) x &= x - 1;
-    return int(parola * 64) + std::countr_zero(x);
-}
-
 // How column a differs from column b: a's numbers b lacks (fuori) and b's
 // numbers a lacks (mancanti), with their counts.
 struct Differenza {
@@ -99,8 +90,8 @@ static Differenza Differenze(const Maschera& a, const Maschera& b) {
 
 // The numbers of a with the i-th of d.fuori replaced by the j-th of d.mancanti.
 static Maschera Scambio(const Maschera& a, const Differenza& d, uint64_t i, uint64_t j) {
-    const int x = BitNumero(d.fuori, i);
-    const int y = BitNumero(d.mancanti, j);
+    const int x = NumeroDiPosto(d.fuori, i);
+    const int y = NumeroDiPosto(d.mancanti, j);
     Maschera m = a;
     Leva(m, x);
     Metti(m, y);

@@ -101,8 +101,7 @@ void IndiceCoperture::ContaDenso(int k, int64_t coefficiente) {
     if (k != punti_) return;
     // The lists of the t-subsets, for the selection; the counts become the
     // fill cursors, so no second array of the key space is touched.
-    inizio_.resize(size_t(chiavi) + 1);
-    inizio_[0] = 0;
+    inizio_.assign(size_t(chiavi) + 1, 0);
     for (uint32_t r = 0; r < chiavi; ++r) {
         inizio_[r + 1] = inizio_[r] + quante[r];
         quante[r] = inizio_[r];

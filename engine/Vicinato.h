@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <vector>
 
@@ -29,6 +30,15 @@ using Maschera = std::array<uint64_t, 2>;  // numbers 1..90 as bits
 inline void Metti(Maschera& m, int n) { m[size_t(n >> 6)] |= uint64_t(1) << (n & 63); }
 inline void Leva(Maschera& m, int n) { m[size_t(n >> 6)] &= ~(uint64_t(1) << (n & 63)); }
 inline int QuantiNumeri(const Maschera& m) { return Maschera128{m[0], m[1]}.Conta(); }
+// The number in place i of m, counting from 0 in ascending order; i below
+// QuantiNumeri(m).
+inline int NumeroDiPosto(const Maschera& m, uint64_t i) {
+    const uint64_t basse = uint64_t(std::popcount(m[0]));
+    const size_t parola = i < basse ? 0 : 1;
+    uint64_t x = m[parola];
+    for (uint64_t salta = parola == 0 ? i : i - basse; salta > 0; --salta) x &= x - 1;
+    return int(parola * 64) + std::countr_zero(x);
+}
 // f(n) for every number of m, ascending.
 template <typename F>
 void PerOgniNumero(const Maschera& m, F&& f) {

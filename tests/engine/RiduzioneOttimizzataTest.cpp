@@ -316,6 +316,11 @@ TEST(RiduzioneOttimizzata, NeighbourhoodMatchesPairwiseCount) {
     riduzione::Leva(m, 63);
     EXPECT_EQ(m, (riduzione::Maschera{0b10, uint64_t{1} | uint64_t{1} << 26}));
     EXPECT_EQ(riduzione::QuantiNumeri(m), 3);
+    // The numbers 2, 65 and 89 by their places.
+    const riduzione::Maschera p = {uint64_t{1} << 2, uint64_t{1} << 1 | uint64_t{1} << 25};
+    std::vector<int> inOrdine;
+    for (uint64_t i = 0; i < 3; ++i) inOrdine.push_back(riduzione::NumeroDiPosto(p, i));
+    EXPECT_EQ(inOrdine, (std::vector<int>{2, 65, 89}));
 }
 
 TEST(RiduzioneOttimizzata, StopSmallSetsAndRefusals) {

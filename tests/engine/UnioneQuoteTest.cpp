@@ -138,13 +138,16 @@ TEST(UnioneQuote, BadSharesAndDamagedBytesAreRefused) {
         EXPECT_THROW(DecodificaQuota(dati.data(), taglio), Errore) << "cut at " << taglio;
     }
     // Past four billion columns tested the count takes its high word:
-    // 5,000,000,007 is 0x1'2A05'F207, low word first.
+    // 5,000,000,007 is 0x1'2A05'F207, low word first; a stopped share says so.
     RisultatoSviluppo grande = quota;
     grande.testate = 5'000'000'007;
+    grande.interrotto = true;
     const std::vector<uint8_t> datiGrande = CodificaQuota(grande);
     EXPECT_EQ(std::vector<uint8_t>(datiGrande.begin(), datiGrande.begin() + 8),
               (std::vector<uint8_t>{0x07, 0xF2, 0x05, 0x2A, 1, 0, 0, 0}));
+    EXPECT_EQ(datiGrande[8], 1);
     EXPECT_EQ(DecodificaQuota(datiGrande.data(), datiGrande.size()).testate, 5'000'000'007u);
+    EXPECT_TRUE(DecodificaQuota(datiGrande.data(), datiGrande.size()).interrotto);
     std::vector<uint8_t> flagStrano = dati;
     flagStrano[8] = 2;
     EXPECT_THROW(DecodificaQuota(flagStrano.data(), flagStrano.size()), Errore);
