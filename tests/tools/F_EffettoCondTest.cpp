@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QListWidget>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 
 #include "../control/Banco.h"
+#include "AiutiStrumenti.h"
 #include "CollegaStrumenti.h"
 #include "F_EffettoCond.h"
 #include "GrigliaCondizioni.h"
@@ -26,17 +26,6 @@ void SviluppaSistemaDiProva(Banco& b) {
     b.Condizione(5, "LinkClose", "L", "1-2");
     b.c.GetLbQuadroRec()->addItem("1,1,-1");
     b.c.GestSviluppo();
-}
-
-QStringList Testi(const QTreeWidgetItem* riga) {
-    QStringList t;
-    for (int c = 0; c < riga->columnCount(); ++c) t << riga->text(c);
-    return t;
-}
-
-void Clicca(QTreeWidget* lista, QTreeWidgetItem* voce) {
-    lista->scrollToItem(voce);
-    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualItemRect(voce).center());
 }
 
 TEST(F_EffettoCond, CountsAndSharesOfTheLastDevelopment) {

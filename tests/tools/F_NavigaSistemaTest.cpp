@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QTest>
 #include <QTreeWidget>
 
 #include "../control/Banco.h"
+#include "AiutiStrumenti.h"
 #include "CollegaStrumenti.h"
 #include "F_NavigaSistema.h"
 #include "GrigliaCondizioni.h"
@@ -54,11 +54,6 @@ const QString kAlberoConGruppi =
 F_NavigaSistema* Navigatore(Banco& b) {
     F_NavigaSistema* n = b.c.findChild<F_NavigaSistema*>();
     return n != nullptr && n->isVisible() ? n : nullptr;
-}
-
-void Clicca(QTreeWidget* albero, QTreeWidgetItem* nodo) {
-    albero->scrollToItem(nodo);
-    QTest::mouseClick(albero->viewport(), Qt::LeftButton, {}, albero->visualItemRect(nodo).center());
 }
 
 TEST(F_NavigaSistema, TreeOfTheLinkGroups) {

@@ -19,15 +19,13 @@
 
 #include <algorithm>
 #include <functional>
-#include <numeric>
-#include <random>
 
 #include "../control/Banco.h"
 #include "../engine/ColonnaDiProva.h"
 #include "../engine/OsservatoriDiProva.h"
+#include "AiutiStrumenti.h"
 #include "CollegaStrumenti.h"
 #include "F_Riduzione.h"
-#include "FileColonne.h"
 #include "Garanzia.h"
 #include "Riduzione.h"
 #include "RiduzioneOttimizzata.h"
@@ -60,7 +58,11 @@ std::vector<Colonna> Tenute(const CombiFiltroA& c) {
     c.GetColonneSviluppo(v);
     return v;
 }
-
+std::vector<Colonna> TenuteSenzaZero(const CombiFiltroA& c) {
+    std::vector<Colonna> v = Tenute(c);
+    v.erase(v.begin());
+    return v;
+}
 
 // The guarantee checked by brute force: every input column shares at least
 // `punti` numbers with a kept one, and every kept column is an input column.
@@ -78,11 +80,7 @@ struct BancoRiduzione {
     QTemporaryDir cartella;
     F_Riduzione f{b.c, b.dialoghi};
 
-    QString Scrivi(const QString& nome, const std::vector<Colonna>& colonne) {
-        const QString percorso = cartella.filePath(nome);
-        combi::ScriviFileColonne(percorso.toStdString(), colonne);
-        return percorso;
-    }
+    QString Scrivi(const QString& nome, const std::vector<Colonna>& c) { return ScriviColonne(cartella, nome, c); }
     void Scegli(const QString& percorso) {
         b.dialoghi.fileScelti.push_back(percorso);
         f.Command1()->click();
@@ -91,19 +89,12 @@ struct BancoRiduzione {
     void Avvia() { f.XPButton1(0)->click(); }
 };
 
-// Runs `azione` during the reduction's message pumps: `volte` counts the
-// pumps seen while the window is busy; the action runs at the first one.
-struct DuranteLaRiduzione {
-    DuranteLaRiduzione(const F_Riduzione& f, std::function<void()> azione) {
-        timer.setInterval(0);
-        QObject::connect(&timer, &QTimer::timeout, [this, &f, azione = std::move(azione)] {
-            if (!f.Occupato()) return;
-            if (volte++ == 0) azione();
-        });
-        timer.start();
-    }
-    QTimer timer;
-    int volte = 0;
+// Runs `azione` at the first message pump of the reduction.
+struct DuranteLaRiduzione : Spia {
+    DuranteLaRiduzione(const F_Riduzione& f, std::function<void()> azione)
+        : Spia([&f, azione = std::move(azione), prima = true]() mutable {
+              if (f.Occupato() && std::exchange(prima, false)) azione();
+          }) {}
 };
 
 TEST(F_Riduzione, OpensWithThreeGuaranteesAndReadsTheChosenFile) {
@@ -215,7 +206,8 @@ TEST(F_Riduzione, KeepsTheEngineColumnsForEachGuarantee) {
 // A file of class N reduced with "N - k" keeps what the engine keeps with
 // N - k shared numbers; the result is a cover of the file (checked one
 // column against another) in which no kept column covers another, and on
-// the small files it has the size worked out by hand.
+// the small files it has the size worked out by hand. The entry chosen
+// before the file falls back to "N - 1" when the class turns it off.
 TEST(F_Riduzione, ReducesColumnsOfAnyClassWithNMinusTheEntry) {
     struct Caso {
         const char* nome;
@@ -232,6 +224,8 @@ TEST(F_Riduzione, ReducesColumnsOfAnyClassWithNMinusTheEntry) {
     const std::vector<Colonna> cinque = {Col({1, 2, 3, 4, 5}), Col({1, 2, 3, 4, 6}), Col({1, 2, 3, 7, 8}),
                                          Col({10, 11, 12, 13, 14})};
     const Caso casi[] = {
+        // {1,2} and {1,3} share one number: one of them and {4,5}.
+        {"classe 2 a mano, N - 1", {Col({1, 2}), Col({1, 3}), Col({4, 5})}, 2, 0, 1, 2},
         {"classe 3 a mano, N - 1", tre, 3, 0, 2, 2},
         {"classe 5 a mano, N - 1", cinque, 5, 0, 4, 3},
         {"classe 5 a mano, N - 2", cinque, 5, 1, 3, 2},
@@ -243,8 +237,10 @@ TEST(F_Riduzione, ReducesColumnsOfAnyClassWithNMinusTheEntry) {
     for (const Caso& c : casi) {
         SCOPED_TRACE(c.nome);
         BancoRiduzione r;
+        r.Garanzia(2);
         r.Scegli(r.Scrivi("Classe.col", c.colonne));
         ASSERT_TRUE(r.b.dialoghi.boxes.empty());
+        EXPECT_EQ(r.f.cmbRiduzione()->currentIndex(), c.classe >= 4 ? 2 : 0);
         EXPECT_EQ(r.f.LabClasse()->text(), QString::number(c.classe));
         // Entries asking for fewer than one shared number are off.
         auto* voci = qobject_cast<QStandardItemModel*>(r.f.cmbRiduzione()->model());
@@ -255,9 +251,8 @@ TEST(F_Riduzione, ReducesColumnsOfAnyClassWithNMinusTheEntry) {
         r.Avvia();
         ASSERT_TRUE(r.b.dialoghi.boxes.empty()) << r.b.dialoghi.boxes[0].testo.toStdString();
 
-        const std::vector<Colonna> tenute = Tenute(r.b.c);
-        EXPECT_EQ(tenute, Attese(c.colonne, c.punti));
-        const std::vector<Colonna> senzaZero(tenute.begin() + 1, tenute.end());
+        EXPECT_EQ(Tenute(r.b.c), Attese(c.colonne, c.punti));
+        const std::vector<Colonna> senzaZero = TenuteSenzaZero(r.b.c);
         ControllaGaranzia(senzaZero, c.colonne, c.punti, c.classe);
         for (size_t i = 0; i < senzaZero.size(); ++i)
             for (size_t j = i + 1; j < senzaZero.size(); ++j)
@@ -271,17 +266,6 @@ TEST(F_Riduzione, ReducesColumnsOfAnyClassWithNMinusTheEntry) {
                                              .arg(senzaZero.size()));
         EXPECT_EQ(r.f.PanPerc()->value(), 100);
     }
-}
-
-// A class-2 file offers "N - 1" only; the entry chosen before falls back to it.
-TEST(F_Riduzione, AClassTwoFileOffersOnlyTheFirstEntry) {
-    BancoRiduzione r;
-    r.Garanzia(2);
-    r.Scegli(r.Scrivi("Ambi.col", {Col({1, 2}), Col({1, 3}), Col({4, 5})}));
-    EXPECT_EQ(r.f.cmbRiduzione()->currentIndex(), 0);
-    r.Avvia();
-    // {1,2} and {1,3} share one number: one of them and {4,5}.
-    EXPECT_EQ(r.b.c.QuantitaColonne(), 2);
 }
 
 TEST(F_Riduzione, OttimizzaTakesTheSecondsOnlyWhenTicked) {
@@ -316,20 +300,15 @@ TEST(F_Riduzione, OttimizzaKeepsTheGuaranteeWithNoMoreColumnsThanThePlainReducti
     r.Garanzia(2);  // "N - 3": three shared numbers
     r.f.show();
     QStringList visti;
-    QTimer spia;
-    spia.setInterval(0);
-    QObject::connect(&spia, &QTimer::timeout, [&] {
+    Spia spia([&] {
         if (r.f.Occupato() && (visti.isEmpty() || visti.last() != r.f.LabInfo()->text()))
             visti << r.f.LabInfo()->text();
     });
-    spia.start();
     r.Avvia();
-    spia.stop();
 
-    const std::vector<Colonna> tenute = Tenute(r.b.c);
-    const std::vector<Colonna> senzaZero(tenute.begin() + 1, tenute.end());
+    const std::vector<Colonna> senzaZero = TenuteSenzaZero(r.b.c);
     ControllaGaranzia(senzaZero, colonne, 3, 6);
-    EXPECT_LE(tenute.size(), Attese(colonne, 3).size());
+    EXPECT_LE(senzaZero.size() + 1, Attese(colonne, 3).size());
     EXPECT_EQ(r.f.LabInfo()->text(),
               QString("Ottimizzazione terminata: 210 colonne in ingresso, %1 tenute").arg(senzaZero.size()));
     EXPECT_EQ(r.f.LabColonneRid()->text(), QString::number(senzaZero.size()));
@@ -359,34 +338,29 @@ TEST(F_Riduzione, StopDuringOttimizzaKeepsTheBestSetAndTheWindow) {
     r.Garanzia(2);
     r.f.show();
     r.b.dialoghi.risposte.push_back(true);
-    QTimer spia;
-    spia.setInterval(0);
     bool chiesto = false;
-    QObject::connect(&spia, &QTimer::timeout, [&] {
+    Spia spia([&] {
         const QString info = r.f.LabInfo()->text();
         if (chiesto || !r.f.Occupato() || !(info == combi::kFaseOttimizzazione || info.startsWith("Migliore finora: ")))
             return;
         chiesto = true;
         r.f.XPButton1(1)->click();
     });
-    spia.start();
     r.Avvia();
-    spia.stop();
 
     ASSERT_TRUE(chiesto);
     ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
     EXPECT_EQ(r.b.dialoghi.boxes[0].testo, "Interrompere il processo di riduzione ? ");
-    const std::vector<Colonna> tenute = Tenute(r.b.c);
-    const std::vector<Colonna> senzaZero(tenute.begin() + 1, tenute.end());
+    const std::vector<Colonna> senzaZero = TenuteSenzaZero(r.b.c);
     ControllaGaranzia(senzaZero, colonne, 3, 6);
-    EXPECT_LE(tenute.size(), Attese(colonne, 3).size());
+    EXPECT_LE(senzaZero.size() + 1, Attese(colonne, 3).size());
     EXPECT_EQ(r.f.LabInfo()->text(),
               QString("Ottimizzazione interrotta: 462 colonne in ingresso, %1 tenute").arg(senzaZero.size()));
     EXPECT_TRUE(r.f.isVisible());
     EXPECT_FALSE(r.f.Occupato());
 }
 
-TEST(F_Riduzione, StopIsAskedAndClosesTheWindowOnlyOnYes) {
+TEST(F_Riduzione, StopIsAskedOnlyWhileBusyAndClosesTheWindowOnlyOnYes) {
     const std::vector<Colonna> colonne = ColonneCasuali(11, 300, 13);
     for (const bool si : {false, true}) {
         SCOPED_TRACE(si ? "Sì" : "No");
@@ -414,15 +388,11 @@ TEST(F_Riduzione, StopIsAskedAndClosesTheWindowOnlyOnYes) {
         EXPECT_EQ(r.f.isVisible(), !si);
         EXPECT_EQ(r.f.LabColonneRid()->text(), QString::number(r.b.c.QuantitaColonne()));
         EXPECT_EQ(r.b.c.RichiestaStopRiduzione(), si);
+        if (si) continue;
+        r.f.XPButton1(1)->click();  // idle: closes without asking
+        EXPECT_FALSE(r.f.isVisible());
+        EXPECT_EQ(r.b.dialoghi.boxes.size(), 1u);
     }
-}
-
-TEST(F_Riduzione, IdleCloseButtonClosesWithoutAsking) {
-    BancoRiduzione r;
-    r.f.show();
-    r.f.XPButton1(1)->click();
-    EXPECT_FALSE(r.f.isVisible());
-    EXPECT_TRUE(r.b.dialoghi.boxes.empty());
 }
 
 TEST(F_Riduzione, ReportsMissingAndEmptyFilesAndKeepsTheColumns) {
@@ -530,8 +500,7 @@ TEST(RiduciColonne, AHostCallWithNoWindowOpenGetsOneFromTheTools) {
     Banco b;
     QTemporaryDir cartella;
     const std::vector<Colonna> colonne = ColonneCasuali(5, 250, 12);
-    const QString file = cartella.filePath("Host.col");
-    combi::ScriviFileColonne(file.toStdString(), colonne);
+    const QString file = ScriviColonne(cartella, "Host.col", colonne);
 
     // No tools: unseen, after a window that is gone too; an old stop request is cleared.
     delete new F_Riduzione(b.c, b.dialoghi);
@@ -544,15 +513,12 @@ TEST(RiduciColonne, AHostCallWithNoWindowOpenGetsOneFromTheTools) {
     QPointer<F_Riduzione> finestra;
     QString fase;
     int percento = -1;
-    QTimer spia;
-    spia.setInterval(0);
-    QObject::connect(&spia, &QTimer::timeout, [&] {
+    Spia spia([&] {
         if (finestra || !(finestra = b.c.findChild<F_Riduzione*>())) return;
         fase = finestra->LabInfo()->text();
         QObject::connect(finestra->PanPerc(), &QProgressBar::valueChanged,
                          [&](int valore) { percento = std::max(percento, valore); });
     });
-    spia.start();
     b.c.RiduciColonne(file, 4);
     ASSERT_TRUE(finestra) << "no reduction window came up";
     EXPECT_TRUE(finestra->isVisible());
@@ -574,8 +540,7 @@ TEST(CollegaStrumenti, RiduzioneOpensTheWindowAndRefreshesTheColumnCommands) {
     CollegaStrumenti(b.c, b.dialoghi);
     QTemporaryDir cartella;
     const std::vector<Colonna> colonne = ColonneCasuali(9, 60, 10);
-    const QString file = cartella.filePath("Barra.col");
-    combi::ScriviFileColonne(file.toStdString(), colonne);
+    const QString file = ScriviColonne(cartella, "Barra.col", colonne);
     ASSERT_FALSE(b.c.Pulsante("VisualizzaColonne")->isEnabled());
 
     QString titolo;

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,33 +15,13 @@
 
 #include "../engine/ColonnaDiProva.h"
 #include "../control/Banco.h"
+#include "AiutiStrumenti.h"
 #include "ClsOrdinaLv.h"
 #include "CollegaStrumenti.h"
-#include "ConfrontoColonna.h"
 #include "F_Spoglio.h"
-#include "Spoglio.h"
-#include "TestiGrigliaQt.h"
 #include "Screenshot.h"
 
 namespace {
-
-QStringList Testi(const QTreeWidget* lista, int riga) {
-    QStringList t;
-    for (int c = 0; c < lista->columnCount(); ++c) t << lista->topLevelItem(riga)->text(c);
-    return t;
-}
-
-std::vector<QStringList> Righe(const QTreeWidget* lista) {
-    std::vector<QStringList> righe;
-    for (int r = 0; r < lista->topLevelItemCount(); ++r) righe.push_back(Testi(lista, r));
-    return righe;
-}
-
-QStringList Intestazioni(const QTreeWidget* lista) {
-    QStringList t;
-    for (int c = 0; c < lista->columnCount(); ++c) t << lista->headerItem()->text(c);
-    return t;
-}
 
 // What the user does: type the draw, pick the minimum, press the first button.
 void Controlla(F_Spoglio& f, const QString& estrazione, const QString& minimo = {}) {
@@ -57,20 +36,7 @@ void ClicIntestazione(QTreeWidget* lista, int sezione) {
     QTest::mouseClick(h->viewport(), Qt::LeftButton, {}, punto);
 }
 
-std::vector<combi::Colonna> Colonne(const Banco& b) {
-    std::vector<combi::Colonna> c;
-    b.c.GetColonneSviluppo(c);
-    if (!c.empty()) c.erase(c.begin());
-    return c;
-}
-
 using combi::test::Col;
-
-QStringList Punti(const QTreeWidget* lista, int colonna) {
-    QStringList t;
-    for (int r = 0; r < lista->topLevelItemCount(); ++r) t << lista->topLevelItem(r)->text(colonna);
-    return t;
-}
 
 }  // namespace
 
@@ -82,15 +48,14 @@ TEST(F_Spoglio, OpensWithItsPagesAndTheMinimumOfTheGame) {
     for (int i = 0; i < lotto.CmbPuntiMin()->count(); ++i) voci << lotto.CmbPuntiMin()->itemText(i);
     EXPECT_EQ(voci, (QStringList{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"}));
     EXPECT_EQ(lotto.CmbPuntiMin()->currentText(), "2");
-    EXPECT_EQ(Intestazioni(lotto.ListView1()), (QStringList{"Colonna", "Numeri", "Punti"}));
-    EXPECT_EQ(Intestazioni(lotto.ListView2()),
+    EXPECT_EQ(Testi(lotto.ListView1()->headerItem()), (QStringList{"Colonna", "Numeri", "Punti"}));
+    EXPECT_EQ(Testi(lotto.ListView2()->headerItem()),
               (QStringList{"Condizione", "Punti", "Recupero", "Punti effettivi", "Esito"}));
-    EXPECT_EQ(Intestazioni(lotto.ListView3()), (QStringList{"Vincita", "Colonne"}));
+    EXPECT_EQ(Testi(lotto.ListView3()->headerItem()), (QStringList{"Vincita", "Colonne"}));
     QTabWidget* tab = lotto.TabStrip1();
     ASSERT_EQ(tab->count(), 3);
-    EXPECT_EQ(tab->tabText(0), "Vincite");
-    EXPECT_EQ(tab->tabText(1), "Confronto condizioni");
-    EXPECT_EQ(tab->tabText(2), "Riepilogo");
+    EXPECT_EQ(QStringList({tab->tabText(0), tab->tabText(1), tab->tabText(2)}),
+              (QStringList{"Vincite", "Confronto condizioni", "Riepilogo"}));
     lotto.show();
     QTreeWidget* liste[3] = {lotto.ListView1(), lotto.ListView2(), lotto.ListView3()};
     for (int scelta = 2; scelta >= 0; --scelta) {
@@ -121,10 +86,7 @@ TEST(F_Spoglio, ChecksTheDevelopedColumnsAndSummarisesByPoints) {
     Controlla(f, "1,2,3,4,5", "2");
     EXPECT_TRUE(b.dialoghi.boxes.empty());
     // 5 of 1..10 sharing p numbers with 1..5: C(5, p) * C(5, 5 - p).
-    EXPECT_EQ(Righe(f.ListView3()), (std::vector<QStringList>{{"Vincite con 5 punti ", "1"},
-                                                              {"Vincite con 4 punti ", "25"},
-                                                              {"Vincite con 3 punti ", "100"},
-                                                              {"Vincite con 2 punti ", "100"}}));
+    EXPECT_EQ(Righe(f.ListView3()), Riepilogo(5, {1, 25, 100, 100}));
     // The 252 columns in the order developed (ascending), counted apart: the
     // listed ones are those with 2 or more of 1..5, under their number.
     std::vector<QStringList> vincenti;
@@ -144,13 +106,10 @@ TEST(F_Spoglio, ChecksTheDevelopedColumnsAndSummarisesByPoints) {
     ASSERT_EQ(numero, 252);
     ASSERT_EQ(vincenti.size(), 226u);  // 252 less the C(5,4)C(5,1) + 1 columns with 0 or 1 point
     EXPECT_EQ(Righe(f.ListView1()), vincenti);
-    EXPECT_EQ(Testi(f.ListView1(), 0), (QStringList{"1", "01 02 03 04 05", "5"}));
 
     // A number typed twice scores once; a higher minimum lists fewer rows.
     Controlla(f, "1,1,2,2,3", "3");
-    EXPECT_EQ(Righe(f.ListView3()), (std::vector<QStringList>{{"Vincite con 5 punti ", "0"},
-                                                              {"Vincite con 4 punti ", "0"},
-                                                              {"Vincite con 3 punti ", "21"}}));
+    EXPECT_EQ(Righe(f.ListView3()), Riepilogo(5, {0, 0, 21}));
     EXPECT_EQ(f.ListView1()->topLevelItemCount(), 21);
 }
 
@@ -161,35 +120,23 @@ TEST(F_Spoglio, OnlyColumnsWithEnoughPointsAreListed) {
         int classe;  // game index 0 Lotto (class 5), 3 SuperEnalotto (class 6)
         QString estrazione, minimo;
         std::vector<QStringList> vincite, riepilogo;
-    } casi[] = {
-        {"5,12,90 from two points",
-         {Col({5, 12, 30, 40, 50}), Col({1, 2, 3, 5, 90}), Col({5, 12, 20, 60, 90}), Col({12, 13, 14, 15, 16})},
-         0, "5,12,90", "2",
-         {{"1", "05 12 30 40 50", "2"}, {"2", "01 02 03 05 90", "2"}, {"3", "05 12 20 60 90", "3"}},
-         {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "1"},
-          {"Vincite con 2 punti ", "2"}}},
-        {"blanks between the numbers, as a player types them",
-         {Col({5, 12, 30, 40, 50}), Col({1, 2, 3, 5, 90}), Col({5, 12, 20, 60, 90}), Col({12, 13, 14, 15, 16})},
-         0, " 5  12 90 ", "2",
-         {{"1", "05 12 30 40 50", "2"}, {"2", "01 02 03 05 90", "2"}, {"3", "05 12 20 60 90", "3"}},
-         {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "1"},
-          {"Vincite con 2 punti ", "2"}}},
+    };
+    const std::vector<combi::Colonna> quattro = {Col({5, 12, 30, 40, 50}), Col({1, 2, 3, 5, 90}),
+                                                 Col({5, 12, 20, 60, 90}), Col({12, 13, 14, 15, 16})};
+    const std::vector<QStringList> treVincenti = {
+        {"1", "05 12 30 40 50", "2"}, {"2", "01 02 03 05 90", "2"}, {"3", "05 12 20 60 90", "3"}};
+    const Caso casi[] = {
+        {"5,12,90 from two points", quattro, 0, "5,12,90", "2", treVincenti, Riepilogo(5, {0, 0, 1, 2})},
+        {"blanks between the numbers, as a player types them", quattro, 0, " 5  12 90 ", "2", treVincenti,
+         Riepilogo(5, {0, 0, 1, 2})},
         {"semicolons and commas mixed", {Col({5, 12, 30, 40, 50}), Col({12, 13, 14, 15, 16})}, 0, "90;12 , 5", "2",
-         {{"1", "05 12 30 40 50", "2"}},
-         {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "0"},
-          {"Vincite con 2 punti ", "1"}}},
+         {{"1", "05 12 30 40 50", "2"}}, Riepilogo(5, {0, 0, 0, 1})},
         {"empty draw: checked all the same", {Col({1, 2, 3, 4, 5}), Col({6, 7, 8, 9, 10})}, 0, "", "1", {},
-         {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "0"},
-          {"Vincite con 2 punti ", "0"}, {"Vincite con 1 punti ", "0"}}},
-        {"no kept columns", {}, 0, "1,2,3", "2", {},
-         {{"Vincite con 5 punti ", "0"}, {"Vincite con 4 punti ", "0"}, {"Vincite con 3 punti ", "0"},
-          {"Vincite con 2 punti ", "0"}}},
+         Riepilogo(5, {0, 0, 0, 0, 0})},
+        {"no kept columns", {}, 0, "1,2,3", "2", {}, Riepilogo(5, {0, 0, 0, 0})},
         {"class 6, minimum 3: every row down to 3 points",
-         {Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 7, 8, 9}), Col({1, 2, 10, 11, 12, 13})},
-         3, "1,2,3,4,5", "3",
-         {{"1", "01 02 03 04 05 06", "5"}, {"2", "01 02 03 07 08 09", "3"}},
-         {{"Vincite con 6 punti ", "0"}, {"Vincite con 5 punti ", "1"}, {"Vincite con 4 punti ", "0"},
-          {"Vincite con 3 punti ", "1"}}},
+         {Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 7, 8, 9}), Col({1, 2, 10, 11, 12, 13})}, 3, "1,2,3,4,5", "3",
+         {{"1", "01 02 03 04 05 06", "5"}, {"2", "01 02 03 07 08 09", "3"}}, Riepilogo(6, {0, 1, 0, 1})},
     };
     for (const Caso& caso : casi) {
         Banco b;
@@ -239,11 +186,7 @@ TEST(F_Spoglio, WrongDrawsAreRefusedAndTheListsKept) {
     b.dialoghi.boxes.clear();
     Controlla(f, venti);
     EXPECT_TRUE(b.dialoghi.boxes.empty()) << "twenty numbers are accepted";
-    EXPECT_EQ(Righe(f.ListView3()), (std::vector<QStringList>{{"Vincite con 5 punti ", "2"},
-                                                              {"Vincite con 4 punti ", "0"},
-                                                              {"Vincite con 3 punti ", "0"},
-                                                              {"Vincite con 2 punti ", "0"},
-                                                              {"Vincite con 1 punti ", "0"}}));
+    EXPECT_EQ(Righe(f.ListView3()), Riepilogo(5, {2, 0, 0, 0, 0}));
 }
 
 // The line under the box follows the typing and shows the numbers as the
@@ -314,16 +257,15 @@ TEST(F_Spoglio, ConditionsOfTheGridAgainstTheDrawnNumbers) {
     const QColor verde(0, 255, 0), giallo(255, 255, 0), rosso(255, 0, 0);
     const QColor colori[5] = {verde, {}, giallo, rosso, {}};
     for (int r = 0; r < 5; ++r) {
-        EXPECT_EQ(Testi(lista, r), attese[r]) << r;
+        EXPECT_EQ(Testi(lista->topLevelItem(r)), attese[r]) << r;
         if (colori[r].isValid()) EXPECT_EQ(lista->topLevelItem(r)->foreground(3).color(), colori[r]) << r;
     }
-    EXPECT_EQ(Testi(lista, 0)[1], "2");
 
     // The same numbers in another order are not sorted first: 21 right
     // after 20 no longer makes a consecutive pair.
     Controlla(f, "70,21,20,10,40");
-    EXPECT_EQ(Testi(lista, 2)[3], "0");
-    EXPECT_EQ(Testi(lista, 2)[4], "Si");
+    EXPECT_EQ(lista->topLevelItem(2)->text(3), "0");
+    EXPECT_EQ(lista->topLevelItem(2)->text(4), "Si");
 }
 
 TEST(F_Spoglio, HeaderClicksSortAndANewCheckKeepsTheOrder) {
@@ -349,7 +291,7 @@ TEST(F_Spoglio, HeaderClicksSortAndANewCheckKeepsTheOrder) {
     EXPECT_EQ(f.ColonnaOrdinamento(), 3);
     EXPECT_EQ(f.OrdineOrdinamento(), 1);
     EXPECT_TRUE(nonCrescente(2));
-    EXPECT_EQ(Testi(lista, 0), (QStringList{"1", "01 02 03 04 05", "5"}));
+    EXPECT_EQ(Testi(lista->topLevelItem(0)), (QStringList{"1", "01 02 03 04 05", "5"}));
     EXPECT_EQ(IconaIntestazione(*lista, 3), 2);
     EXPECT_EQ(IconaIntestazione(*lista, 1), 0);
 
@@ -361,7 +303,7 @@ TEST(F_Spoglio, HeaderClicksSortAndANewCheckKeepsTheOrder) {
     // A new check comes out sorted the same way.
     Controlla(f, "6,7,8,9,10");
     ASSERT_EQ(lista->topLevelItemCount(), 126);
-    EXPECT_EQ(Testi(lista, 125), (QStringList{"252", "06 07 08 09 10", "5"}));
+    EXPECT_EQ(Testi(lista->topLevelItem(125)), (QStringList{"252", "06 07 08 09 10", "5"}));
     for (int r = 1; r < 126; ++r)
         ASSERT_LE(lista->topLevelItem(r - 1)->text(2).toInt(), lista->topLevelItem(r)->text(2).toInt()) << r;
     EXPECT_EQ(IconaIntestazione(*lista, 3), 1);
@@ -375,9 +317,9 @@ TEST(F_Spoglio, HeaderClicksSortAndANewCheckKeepsTheOrder) {
     EXPECT_EQ(IconaIntestazione(*lista, 3), 0);
     EXPECT_EQ(IconaIntestazione(*lista, 1), 2);
     ClicIntestazione(lista, 1);
-    const QStringList numeri = Punti(lista, 1);
-    for (int r = 1; r < numeri.size(); ++r) ASSERT_GE(numeri[r - 1], numeri[r]) << r;
-    EXPECT_EQ(numeri.front(), "06 07 08 09 10");
+    for (int r = 1; r < righe; ++r)
+        ASSERT_GE(lista->topLevelItem(r - 1)->text(1), lista->topLevelItem(r)->text(1)) << r;
+    EXPECT_EQ(lista->topLevelItem(0)->text(1), "06 07 08 09 10");
 }
 
 TEST(F_Spoglio, TheToolbarCommandOpensTheDialog) {

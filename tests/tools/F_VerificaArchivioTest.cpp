@@ -30,6 +30,7 @@
 
 #include "../control/Banco.h"
 #include "../engine/ArchivioDiProva.h"
+#include "AiutiStrumenti.h"
 #include "F_Spoglio.h"
 #include "F_VerificaArchivio.h"
 #include "ImpostazioniStorico.h"
@@ -37,17 +38,7 @@
 
 namespace {
 
-using Righe = std::vector<QStringList>;
-
-Righe Contenuto(const QTreeWidget* lista) {
-    Righe righe;
-    for (int r = 0; r < lista->topLevelItemCount(); ++r) {
-        QStringList testi;
-        for (int c = 0; c < lista->columnCount(); ++c) testi << lista->topLevelItem(r)->text(c);
-        righe.push_back(testi);
-    }
-    return righe;
-}
+using Tabella = std::vector<QStringList>;
 
 // Four class-3 columns in a class-6 control, the archive of the engine's
 // hand-worked test (their points are worked out there) with one line that is
@@ -129,22 +120,20 @@ TEST(F_VerificaArchivio, ShowsTheDrawsWithHitsTheChartAndTheMoneyOfThePrizesType
         f.XPButton1(0)->click();
         EXPECT_EQ(p.b.dialoghi.boxes.size(), 1u);
 
-        EXPECT_EQ(Contenuto(f.LvRiepilogo()),
-                  (Righe{{"Vincite con 5 punti ", "0"},
-                         {"Vincite con 4 punti ", "0"},
-                         {"Vincite con 3 punti ", "1"},
-                         {"Vincite con 2 punti ", "5"},
-                         {"Estrazioni controllate", "7"},
-                         {"Estrazioni con vincite", "3"},
-                         {"Migliore estrazione", "04/01/2024 Roma 01 02 03 40 41 (3 punti: 1 colonna)"},
-                         {"Ritardo massimo", "2 estrazioni (dal 06/01/2024 al 09/01/2024)"}}));
+        Tabella riepilogo = Riepilogo(5, {0, 0, 1, 5});
+        riepilogo.insert(riepilogo.end(),
+                         {{"Estrazioni controllate", "7"},
+                          {"Estrazioni con vincite", "3"},
+                          {"Migliore estrazione", "04/01/2024 Roma 01 02 03 40 41 (3 punti: 1 colonna)"},
+                          {"Ritardo massimo", "2 estrazioni (dal 06/01/2024 al 09/01/2024)"}});
+        EXPECT_EQ(Righe(f.LvRiepilogo()), riepilogo);
         // Only the draws with a column at two points or more; won = columns x prize x stake.
-        EXPECT_EQ(Contenuto(f.LvEstrazioni()), (Righe{{"2024-01-02", "Bari", "01 02 04 10 11", "2", "3", "75,00"},
-                                                      {"2024-01-04", "Roma", "01 02 03 40 41", "3", "1", "250,00"},
-                                                      {"2024-01-11", "Bari", "04 05 06 60 61", "2", "2", "50,00"}}));
-        EXPECT_EQ(Contenuto(f.LvBilancio()), (Righe{{"2023", "10,00", "0,00", "-10,00"},
-                                                    {"2024", "60,00", "375,00", "315,00"},
-                                                    {"Totale", "70,00", "375,00", "305,00"}}));
+        EXPECT_EQ(Righe(f.LvEstrazioni()), (Tabella{{"2024-01-02", "Bari", "01 02 04 10 11", "2", "3", "75,00"},
+                                                        {"2024-01-04", "Roma", "01 02 03 40 41", "3", "1", "250,00"},
+                                                        {"2024-01-11", "Bari", "04 05 06 60 61", "2", "2", "50,00"}}));
+        EXPECT_EQ(Righe(f.LvBilancio()), (Tabella{{"2023", "10,00", "0,00", "-10,00"},
+                                                      {"2024", "60,00", "375,00", "315,00"},
+                                                      {"Totale", "70,00", "375,00", "305,00"}}));
         // The chart has one point per date, the wheels of a date added up.
         const auto* serie = qobject_cast<QLineSeries*>(f.Grafico()->chart()->series().value(0));
         ASSERT_NE(serie, nullptr);
@@ -157,7 +146,7 @@ TEST(F_VerificaArchivio, ShowsTheDrawsWithHitsTheChartAndTheMoneyOfThePrizesType
         f.OrdinaEstrazioni(6);
         f.XPButton1(0)->click();
         QStringList vinte;
-        for (const QStringList& r : Contenuto(f.LvEstrazioni())) vinte << r[5];
+        for (const QStringList& r : Righe(f.LvEstrazioni())) vinte << r[5];
         EXPECT_EQ(vinte, (QStringList{"250,00", "75,00", "50,00"}));
     }
     // The stake and the prize table of this game and class are remembered; another game has its own.
@@ -226,13 +215,13 @@ TEST(F_VerificaArchivio, DoubleClickOpensTheWinningsCheckOnThatDraw) {
     QApplication::processEvents();
     QTreeWidget* lista = f.LvEstrazioni();
     ASSERT_EQ(lista->topLevelItem(1)->text(1), "Roma");
-    Righe riepilogo;
+    Tabella riepilogo;
     QString numeri;
     QTimer::singleShot(0, &f, [&] {
         auto* spoglio = qobject_cast<F_Spoglio*>(QApplication::activeModalWidget());
         ASSERT_NE(spoglio, nullptr);
         numeri = spoglio->Text1()->text();
-        riepilogo = Contenuto(spoglio->ListView3());
+        riepilogo = Righe(spoglio->ListView3());
         spoglio->close();
     });
     const QRect riga = lista->visualItemRect(lista->topLevelItem(1));
@@ -240,11 +229,7 @@ TEST(F_VerificaArchivio, DoubleClickOpensTheWinningsCheckOnThatDraw) {
     QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, riga.center());
     QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, riga.center());
     EXPECT_EQ(numeri, "1,2,3,40,41");
-    EXPECT_EQ(riepilogo, (Righe{{"Vincite con 6 punti ", "0"},
-                                {"Vincite con 5 punti ", "0"},
-                                {"Vincite con 4 punti ", "0"},
-                                {"Vincite con 3 punti ", "1"},
-                                {"Vincite con 2 punti ", "0"}}));
+    EXPECT_EQ(riepilogo, Riepilogo(6, {0, 0, 0, 1, 0}));
 }
 
 TEST(F_VerificaArchivio, StopAskedDuringTheCheckKeepsTheDrawsAlreadyChecked) {

@@ -37,9 +37,9 @@
 #include "../control/Banco.h"
 #include "Screenshot.h"
 #include "../engine/ColonnaDiProva.h"
+#include "AiutiStrumenti.h"
 #include "F_VerificaGaranzia.h"
 #include "F_VisualizzaColonne.h"
-#include "FileColonne.h"
 #include "Formato.h"
 #include "Garanzia.h"
 
@@ -180,8 +180,7 @@ TEST(F_VerificaGaranzia, HolesAgainstAColumnsFile) {
     // column that leaves out 6 and 8 (five numbers of A).
     std::vector<Colonna> daCoprire = {kA, Col({1, 2, 4, 5, 7, 8}), Col({1, 2, 4, 6, 7, 8}), Col({1, 2, 5, 6, 7, 8}),
                                       Col({1, 2, 3, 4, 5, 7})};
-    const QString file = g.cartella.filePath("Coprire.col");
-    combi::ScriviFileColonne(file.toStdString(), daCoprire);
+    const QString file = ScriviColonne(g.cartella, "Coprire.col", daCoprire);
     g.b.dialoghi.fileScelti.push_back(file);
     f.CmdFile()->click();
     EXPECT_EQ(f.LabFile()->text(), file);
@@ -254,9 +253,7 @@ TEST(F_VerificaGaranzia, AnnullaStopsALargeRun) {
         f.TxtPunti()->setValue(3);
         f.show();
         bool occupato = false, chiusa = true, annullaAttivo = false;
-        QTimer spia;
-        spia.setInterval(0);
-        QObject::connect(&spia, &QTimer::timeout, [&] {
+        Spia spia([&] {
             if (!f.Occupato() || occupato) return;
             occupato = true;
             annullaAttivo = f.CmdAnnulla()->isEnabled() && !f.CmdTabella()->isEnabled() && !f.CmdBuchi()->isEnabled();
@@ -264,9 +261,7 @@ TEST(F_VerificaGaranzia, AnnullaStopsALargeRun) {
             chiusa = !f.isVisible();
             f.CmdAnnulla()->click();
         });
-        spia.start();
         (tabella ? f.CmdTabella() : f.CmdBuchi())->click();
-        spia.stop();
         ASSERT_TRUE(occupato) << "the run never pumped the events";
         EXPECT_TRUE(annullaAttivo);
         EXPECT_FALSE(chiusa);
