@@ -10,6 +10,7 @@
 #include "AiutiStrumenti.h"
 #include "CollegaStrumenti.h"
 #include "F_EffettoCond.h"
+#include "F_VisualizzaColonne.h"
 #include "GrigliaCondizioni.h"
 #include "Screenshot.h"
 
@@ -79,27 +80,48 @@ TEST(F_EffettoCond, RowClickBringsTheConditionIntoView) {
     EXPECT_EQ(b.c.GetGridCond()->ColonnaCorrente(), 2);
 }
 
-TEST(F_EffettoCond, ToolbarOpensItModally) {
+// The toolbar opens the effect of the conditions, the column viewer and the
+// winnings check modally on the control's system, with no message.
+TEST(CollegaStrumenti, ToolbarOpensTheToolsModallyOnTheControlsSystem) {
     Banco b;
     CollegaStrumenti(b.c, b.dialoghi);
     SviluppaSistemaDiProva(b);
     const size_t boxPrima = b.dialoghi.boxes.size();
-    QString titolo;
-    int righe = -1;
-    bool modale = false;
-    QTimer::singleShot(0, [&] {
-        auto* effetto = qobject_cast<F_EffettoCond*>(QApplication::activeModalWidget());
-        if (effetto == nullptr) return;
-        titolo = effetto->windowTitle();
-        righe = effetto->ListView1()->topLevelItemCount();
-        modale = effetto->isModal();
-        effetto->reject();
-    });
-    b.c.EseguiComando("EffettoCondizioni");
-    EXPECT_EQ(titolo, "Effetto condizioni");
-    EXPECT_EQ(righe, 5);
-    EXPECT_TRUE(modale);
-    EXPECT_EQ(b.dialoghi.boxes.size(), boxPrima) << "no message along the way";
+    const int colonne = b.c.QuantitaColonne();
+    ASSERT_GT(colonne, 0);
+    ASSERT_LT(colonne, F_VisualizzaColonne::kRighe) << "the viewer shows them all";
+    const struct {
+        const char* comando;
+        const char* titolo;
+        int righe;      // of its (first) list
+        QString cella;  // row 0, column 1, when there are rows
+    } casi[] = {
+        {"EffettoCondizioni", "Effetto condizioni", 5, "Consecutivi"},
+        {"VisualizzaColonne", "Colonne condizionate", colonne, b.c.GetColonnaSviluppo(1)},
+        {"ConfrontoCondSuCol", "Spoglio vincite", 0, ""},
+    };
+    for (const auto& caso : casi) {
+        SCOPED_TRACE(caso.comando);
+        QString titolo, cella;
+        int righe = -1;
+        bool modale = false;
+        QTimer::singleShot(0, [&] {
+            QWidget* finestra = QApplication::activeModalWidget();
+            if (finestra == nullptr) return;
+            titolo = finestra->windowTitle();
+            modale = finestra->isModal();
+            const QTreeWidget* lista = finestra->findChild<QTreeWidget*>();
+            righe = lista->topLevelItemCount();
+            if (righe > 0) cella = lista->topLevelItem(0)->text(1);
+            finestra->close();
+        });
+        b.c.EseguiComando(caso.comando);
+        EXPECT_EQ(titolo, caso.titolo);
+        EXPECT_TRUE(modale);
+        EXPECT_EQ(righe, caso.righe);
+        EXPECT_EQ(cella, caso.cella);
+        EXPECT_EQ(b.dialoghi.boxes.size(), boxPrima) << "no message along the way";
+    }
 }
 
 SCREENSHOT(EffettoCondizioni) {

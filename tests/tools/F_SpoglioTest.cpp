@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -8,7 +7,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 
 #include <vector>
@@ -17,7 +15,6 @@
 #include "../control/Banco.h"
 #include "AiutiStrumenti.h"
 #include "ClsOrdinaLv.h"
-#include "CollegaStrumenti.h"
 #include "F_Spoglio.h"
 #include "Screenshot.h"
 
@@ -320,26 +317,6 @@ TEST(F_Spoglio, HeaderClicksSortAndANewCheckKeepsTheOrder) {
     for (int r = 1; r < righe; ++r)
         ASSERT_GE(lista->topLevelItem(r - 1)->text(1), lista->topLevelItem(r)->text(1)) << r;
     EXPECT_EQ(lista->topLevelItem(0)->text(1), "06 07 08 09 10");
-}
-
-TEST(F_Spoglio, TheToolbarCommandOpensTheDialog) {
-    Banco b;
-    CollegaStrumenti(b.c, b.dialoghi);
-    QString titolo;
-    bool modale = false;
-    QTimer::singleShot(0, [&] {
-        for (QWidget* w : QApplication::topLevelWidgets()) {
-            if (w->objectName() == "F_Spoglio" && w->isVisible()) {
-                titolo = w->windowTitle();
-                modale = w->isModal();
-                w->close();
-            }
-        }
-    });
-    b.c.EseguiComando("ConfrontoCondSuCol");
-    EXPECT_EQ(titolo, "Spoglio vincite");
-    EXPECT_TRUE(modale);
-    EXPECT_TRUE(b.dialoghi.boxes.empty());
 }
 
 SCREENSHOT(Spoglio) {
