@@ -21,9 +21,8 @@ struct RispostaLinkClose {
             auto* dialogo = qobject_cast<F_LinkClose*>(QApplication::activeModalWidget());
             ASSERT_NE(dialogo, nullptr);
             caselle = dialogo->NumeroCaselle();
-            for (int i = 0; i < caselle; ++i) {
+            for (int i = 0; i < caselle; ++i)
                 if (dialogo->Casella(i)->isChecked()) giaSpuntate.push_back(i);
-            }
             for (int i : spunta) dialogo->Casella(i)->setChecked(true);
             dialogo->Pulsante(pulsante)->click();
         });
@@ -44,17 +43,13 @@ TEST(F_LinkClose, BoxesPointsAndReadingBack) {
     d.LoadchkPunti(25);
     ASSERT_EQ(d.NumeroCaselle(), 26);
     EXPECT_EQ(d.Casella(25)->text(), "25");
-    EXPECT_EQ(Riga(d, 10), 0) << "the first row holds 0..10";
-    EXPECT_EQ(Riga(d, 11), 1);
-    EXPECT_EQ(Riga(d, 20), 1);
-    EXPECT_EQ(Riga(d, 21), 2);
+    const std::pair<int, int> righe[] = {{10, 0}, {11, 1}, {20, 1}, {21, 2}};  // the first row holds 0..10
+    for (auto [casella, riga] : righe) EXPECT_EQ(Riga(d, casella), riga) << casella;
     d.LoadchkPunti(30);
     EXPECT_EQ(d.NumeroCaselle(), 26) << "boxes already there end the layout";
 
     EXPECT_EQ(d.GetPunti(), "");
-    d.Casella(3)->setChecked(true);
-    d.Casella(0)->setChecked(true);
-    d.Casella(12)->setChecked(true);
+    for (int casella : {3, 0, 12}) d.Casella(casella)->setChecked(true);
     EXPECT_EQ(d.GetPunti(), "0-3-12");
 
     GrigliaCondizioni g;

@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QSignalSpy>
 #include <QTimer>
 #include <QToolButton>
 

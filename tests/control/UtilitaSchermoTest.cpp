@@ -63,17 +63,16 @@ TEST(SegnalazioneErrori, GuardedOperationsReportAndSwallow) {
 
     const size_t prima = d.boxes.size();
     EseguiProtetta(d, "CombiFiltro.Prova", [] { throw combi::Errore(0, "nessun errore"); });
-    try {
-        throw combi::Errore(30017, "ignorato");
-    } catch (...) {
-        SegnalaEccezioneCorrente(d, "CombiFiltro.LayOutGrid", 30017);
-    }
+    const auto segnala = [&](int numero) {
+        try {
+            throw combi::Errore(numero, "Errore di accesso");
+        } catch (...) {
+            SegnalaEccezioneCorrente(d, "CombiFiltro.LayOutGrid", 30017);
+        }
+    };
+    segnala(30017);
     EXPECT_EQ(d.boxes.size(), prima) << "error 0 and an ignored number show nothing";
-    try {
-        throw combi::Errore(75, "Errore di accesso");
-    } catch (...) {
-        SegnalaEccezioneCorrente(d, "CombiFiltro.LayOutGrid", 30017);
-    }
+    segnala(75);
     EXPECT_EQ(d.boxes.size(), prima + 1) << "only the ignored number is ignored";
     EseguiProtetta(d, "CombiFiltro.Prova", [] { throw std::runtime_error("rotto"); });
     EXPECT_EQ(d.boxes.back().testo, "5- rotto");
