@@ -92,9 +92,7 @@ TEST(RegolaClic, UnValoreNonEMaiAccettatoERecuperabile) {
     EXPECT_TRUE(Chk(*e, "R", 1)->isEnabled());
     Clic(*e, "ChkRecupero_4");
     Quadro(*e, " ");
-    for (int v = 0; v <= 5; ++v) {
-        EXPECT_FALSE(Chk(*e, "R", v)->isChecked() || Chk(*e, "R", v)->isEnabled()) << v;
-    }
+    for (int v = 0; v <= 5; ++v) EXPECT_FALSE(Chk(*e, "R", v)->isChecked() || Chk(*e, "R", v)->isEnabled()) << v;
     EXPECT_EQ(e->GetParametri().recupero, "");
     // A range editor without a panel: recovery boxes empty and off.
     auto r = Editore(combi::kPeso, dialoghi);
@@ -135,14 +133,12 @@ TEST(ValoriOfferti, DipendonoDaClasseDivisoreESequenza) {
         EXPECT_EQ(Chk(*e, "P", caso.primo - 1), nullptr);
         EXPECT_EQ(Chk(*e, "P", caso.ultimo + 1), nullptr);
         // The first value offered opens the first row of boxes.
-        if (caso.ultimo >= caso.primo) {
-            for (QGridLayout* griglia : e->findChildren<QGridLayout*>()) {
-                const int indice = griglia->indexOf(Chk(*e, "P", caso.primo));
-                if (indice < 0) continue;
-                int riga = -1, colonna = -1, righe = 0, colonne = 0;
-                griglia->getItemPosition(indice, &riga, &colonna, &righe, &colonne);
-                EXPECT_EQ(riga * 100 + colonna, 0) << "row " << riga << " column " << colonna;
-            }
+        for (QGridLayout* griglia : e->findChildren<QGridLayout*>()) {
+            const int indice = griglia->indexOf(Chk(*e, "P", caso.primo));
+            if (indice < 0) continue;
+            int riga = -1, colonna = -1, righe = 0, colonne = 0;
+            griglia->getItemPosition(indice, &riga, &colonna, &righe, &colonne);
+            EXPECT_EQ(riga * 100 + colonna, 0) << "row " << riga << " column " << colonna;
         }
         for (int v = caso.primo; v <= caso.ultimo; ++v) {
             ASSERT_NE(Chk(*e, "P", v), nullptr) << v;

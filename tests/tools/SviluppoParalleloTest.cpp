@@ -8,7 +8,6 @@
 #include <QComboBox>
 #include <QFile>
 #include <QListWidget>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 
@@ -18,7 +17,9 @@
 
 namespace {
 
-void SistemaDiProva(Banco& b) {
+// With `lavoratori` workers, or as many as the store says.
+void SistemaDiProva(Banco& b, int lavoratori = 0) {
+    if (lavoratori > 0) b.c.setNumeroThreadsSviluppo(int16_t(lavoratori));
     b.NumeriDa1A(18);
     b.c.setClasse(5);  // 8568 columns
     b.Condizione(1, "Consecutivi", "C", "0,1");
@@ -137,8 +138,7 @@ TEST(SviluppoParallelo, AFailingWorkerIsNamedAndNothingIsKept) {
     for (const auto& caso : casi) {
         CartellaTempProvvisoria temp;
         Banco b;
-        SistemaDiProva(b);
-        b.c.setNumeroThreadsSviluppo(3);
+        SistemaDiProva(b, 3);
         SviluppoParallelo parallelo(b.c, b.dialoghi, LavoratoreDifettoso(temp, caso.caso));
         parallelo.Avvia();
         ASSERT_TRUE(AttendiFine(parallelo));
@@ -157,8 +157,7 @@ TEST(SviluppoParallelo, AFailingWorkerIsNamedAndNothingIsKept) {
 TEST(SviluppoParallelo, StrayLinesOfAWorkerArePassedOver) {
     CartellaTempProvvisoria temp;
     Banco b;
-    SistemaDiProva(b);
-    b.c.setNumeroThreadsSviluppo(3);
+    SistemaDiProva(b, 3);
     const QString rumoroso =
         QString("r=$(\"%1\" \"$@\"); printf 'avviso\\nrumore\\n%s\\n' \"$r\"; exit 0").arg(CF_PROGRAMMA_CLI);
     SviluppoParallelo parallelo(b.c, b.dialoghi, LavoratoreDifettoso(temp, rumoroso));
@@ -172,8 +171,7 @@ TEST(SviluppoParallelo, StrayLinesOfAWorkerArePassedOver) {
 TEST(SviluppoParallelo, StopEndsEveryWorker) {
     CartellaTempProvvisoria temp;
     Banco b;
-    SistemaDiProva(b);
-    b.c.setNumeroThreadsSviluppo(3);
+    SistemaDiProva(b, 3);
     SviluppoParallelo parallelo(b.c, b.dialoghi, LavoratoreDifettoso(temp, "sleep 60"));
     b.c.RegistraComando("StopLavoratori", [&] { parallelo.Ferma(); });
     parallelo.Avvia();
