@@ -61,6 +61,11 @@ public:
         for (const auto& b : boxes) t << b.testo;
         return t;
     }
+    QStringList Tipi() const {
+        QStringList t;
+        for (const auto& b : boxes) t << b.tipo;
+        return t;
+    }
     const BoxMostrato* Ultimo() const { return boxes.empty() ? nullptr : &boxes.back(); }
 
 private:

@@ -63,9 +63,8 @@ TEST(Lavoratori, CompletionWaitsForEveryFieldWhateverTheOrder) {
         for (int id = 1; id <= 6; ++id) EXPECT_EQ(b.c.GetColonnaSviluppo(id).left(2), QString::number(primi[id]));
         for (int i = 1; i <= 3; ++i) EXPECT_TRUE(b.c.txtMsgFromDll(i)->text().isEmpty());
         EXPECT_FALSE(b.c.InSviluppo());
-        ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << "clearing the fields must not merge again";
-        EXPECT_EQ(b.dialoghi.boxes[0].tipo, "informazione");
-        EXPECT_EQ(b.dialoghi.boxes[0].testo, "01:02:05");
+        EXPECT_EQ(b.dialoghi.Tipi(), QStringList{"informazione"}) << "clearing the fields must not merge again";
+        EXPECT_EQ(b.dialoghi.Testi(), QStringList{"01:02:05"});
     } while (std::next_permutation(ordine.begin(), ordine.end()));
 }
 

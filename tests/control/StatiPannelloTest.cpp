@@ -66,9 +66,8 @@ TEST(StatiPannello, AnEmptyColumnBetweenConditionsIsMarkedAndAskedAbout) {
 
     b.dialoghi.risposte = {false};
     b.c.GestSviluppo();
-    ASSERT_EQ(b.dialoghi.boxes.size(), 1u);
-    EXPECT_EQ(b.dialoghi.boxes[0].testo,
-              "Le condizioni dopo una colonna vuota non vengono considerate. Continuare ?");
+    EXPECT_EQ(b.dialoghi.Testi(),
+              QStringList{"Le condizioni dopo una colonna vuota non vengono considerate. Continuare ?"});
     EXPECT_EQ(b.c.QuantitaColonne(), 0) << "No: nothing developed";
 
     b.dialoghi.risposte = {true};

@@ -13,9 +13,8 @@ TEST(SviluppoPannello, RefusedWhenTheClassExceedsThePicks) {
     b.c.setClasse(6);
     b.NumeriDa1A(5);
     b.c.GestSviluppo();
-    ASSERT_EQ(b.dialoghi.boxes.size(), 1u);
-    EXPECT_EQ(b.dialoghi.boxes[0].tipo, "esclamazione");
-    EXPECT_EQ(b.dialoghi.boxes[0].testo, "Impostare il pronostico");
+    EXPECT_EQ(b.dialoghi.Tipi(), QStringList{"esclamazione"});
+    EXPECT_EQ(b.dialoghi.Testi(), QStringList{"Impostare il pronostico"});
     EXPECT_EQ(b.c.MotoreSviluppo(), 0);
     EXPECT_EQ(b.c.QuantitaColonne(), 0);
 }

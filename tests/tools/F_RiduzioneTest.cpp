@@ -349,8 +349,7 @@ TEST(F_Riduzione, StopDuringOttimizzaKeepsTheBestSetAndTheWindow) {
     r.Avvia();
 
     ASSERT_TRUE(chiesto);
-    ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
-    EXPECT_EQ(r.b.dialoghi.boxes[0].testo, "Interrompere il processo di riduzione ? ");
+    EXPECT_EQ(r.b.dialoghi.Testi(), QStringList{"Interrompere il processo di riduzione ? "});
     const std::vector<Colonna> senzaZero = TenuteSenzaZero(r.b.c);
     ControllaGaranzia(senzaZero, colonne, 3, 6);
     EXPECT_LE(senzaZero.size() + 1, Attese(colonne, 3).size());
@@ -379,9 +378,8 @@ TEST(F_Riduzione, StopIsAskedOnlyWhileBusyAndClosesTheWindowOnlyOnYes) {
         r.Avvia();
 
         EXPECT_TRUE(apertaDopoChiusura) << "the window refuses to close while busy";
-        ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
-        EXPECT_EQ(r.b.dialoghi.boxes[0].tipo, "domanda");
-        EXPECT_EQ(r.b.dialoghi.boxes[0].testo, "Interrompere il processo di riduzione ? ");
+        EXPECT_EQ(r.b.dialoghi.Tipi(), QStringList{"domanda"});
+        EXPECT_EQ(r.b.dialoghi.Testi(), QStringList{"Interrompere il processo di riduzione ? "});
         // The stop is seen right after the pump in which it was confirmed.
         EXPECT_EQ(Tenute(r.b.c), si ? Attese(colonne, 3, 1) : Attese(colonne, 3));
         EXPECT_NE(Attese(colonne, 3, 1), Attese(colonne, 3));
@@ -416,9 +414,8 @@ TEST(F_Riduzione, ReportsMissingAndEmptyFilesAndKeepsTheColumns) {
         EXPECT_TRUE(r.b.dialoghi.boxes.empty()) << "accepted when chosen";
         r.Garanzia(1), r.Garanzia(0);
         r.Avvia();
-        ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
-        EXPECT_EQ(r.b.dialoghi.boxes[0].tipo, c.tipo);
-        EXPECT_EQ(r.b.dialoghi.boxes[0].testo, c.testo);
+        EXPECT_EQ(r.b.dialoghi.Tipi(), QStringList{c.tipo});
+        EXPECT_EQ(r.b.dialoghi.Testi(), QStringList{c.testo});
         EXPECT_EQ(Tenute(r.b.c), sviluppate);
         EXPECT_EQ(r.f.LabColonneRid()->text(), "2") << "the control's columns, unchanged";
         EXPECT_TRUE(r.f.LabInfo()->text().isEmpty()) << "nothing was reduced";

@@ -173,9 +173,8 @@ TEST(F_Spoglio, WrongDrawsAreRefusedAndTheListsKept) {
     for (const auto& caso : casi) {
         b.dialoghi.boxes.clear();
         Controlla(f, caso.estrazione);
-        ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << caso.estrazione.toStdString();
-        EXPECT_EQ(b.dialoghi.boxes[0].tipo, "esclamazione");
-        EXPECT_EQ(b.dialoghi.boxes[0].testo, caso.messaggio);
+        EXPECT_EQ(b.dialoghi.Tipi(), QStringList{"esclamazione"}) << caso.estrazione.toStdString();
+        EXPECT_EQ(b.dialoghi.Testi(), QStringList{caso.messaggio});
         EXPECT_EQ(Righe(f.ListView1()), vincite);
         EXPECT_EQ(Righe(f.ListView2()), confronto);
         EXPECT_EQ(Righe(f.ListView3()), riepilogo);

@@ -69,10 +69,9 @@ TEST(F_VerificaArchivio, OpensOnTheRememberedArchiveAndTheControlsGame) {
     EXPECT_EQ(f.windowTitle(), "Verifica su archivio");
     EXPECT_EQ(f.LabArchivio()->text(), p.archivio);
     EXPECT_EQ(f.LabInfo()->text(), "Estrazioni lette: 7, righe scartate: 1");
-    ASSERT_EQ(p.b.dialoghi.boxes.size(), 1u);
-    EXPECT_EQ(p.b.dialoghi.boxes[0].tipo, "esclamazione");
-    EXPECT_EQ(p.b.dialoghi.boxes[0].testo, "L'archivio ha 1 righe che non sono estrazioni valide:\n"
-                                           "Riga 6: Bari vuole 5 numeri: la riga ne ha 4");
+    EXPECT_EQ(p.b.dialoghi.Tipi(), QStringList{"esclamazione"});
+    EXPECT_EQ(p.b.dialoghi.Testi(), QStringList{"L'archivio ha 1 righe che non sono estrazioni valide:\n"
+                                                "Riga 6: Bari vuole 5 numeri: la riga ne ha 4"});
     EXPECT_EQ(f.CmbGioco()->currentText(), "Lotto");
     EXPECT_TRUE(f.CmbRuota()->isEnabled());
     EXPECT_EQ(f.CmbPuntiMin()->currentText(), "2");
@@ -98,8 +97,7 @@ TEST(F_VerificaArchivio, OpensOnTheRememberedArchiveAndTheControlsGame) {
     p.b.dialoghi.boxes.clear();
     p.b.c.ImpostaColonneSviluppo({combi::Colonna{}});
     f.XPButton1(0)->click();
-    ASSERT_EQ(p.b.dialoghi.boxes.size(), 1u);
-    EXPECT_EQ(p.b.dialoghi.boxes[0].testo, "Nessuna colonna da verificare: sviluppare prima il sistema");
+    EXPECT_EQ(p.b.dialoghi.Testi(), QStringList{"Nessuna colonna da verificare: sviluppare prima il sistema"});
     p.impostazioni.remove("VerificaArchivio/Archivio");
     F_VerificaArchivio senzaArchivio(p.b.c, p.b.dialoghi, p.impostazioni);
     senzaArchivio.XPButton1(0)->click();
@@ -115,8 +113,7 @@ TEST(F_VerificaArchivio, ShowsTheDrawsWithHitsTheChartAndTheMoneyOfThePrizesType
         Prova::Premio(f, 2, "10");
         Prova::Premio(f, 3, "100");
         Prova::Premio(f, 4, "abc");
-        ASSERT_EQ(p.b.dialoghi.boxes.size(), 1u);
-        EXPECT_EQ(p.b.dialoghi.boxes[0].testo, "Premio non valido per 4 punti: \"abc\"");
+        EXPECT_EQ(p.b.dialoghi.Testi(), QStringList{"Premio non valido per 4 punti: \"abc\""});
         f.XPButton1(0)->click();
         EXPECT_EQ(p.b.dialoghi.boxes.size(), 1u);
 

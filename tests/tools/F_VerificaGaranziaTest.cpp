@@ -173,8 +173,7 @@ TEST(F_VerificaGaranzia, HolesAgainstAColumnsFile) {
     EXPECT_TRUE(f.CmdFile()->isEnabled());
     f.TxtPunti()->setValue(5);
     f.CmdBuchi()->click();
-    ASSERT_EQ(g.b.dialoghi.boxes.size(), 1u);
-    EXPECT_EQ(g.b.dialoghi.boxes[0].testo, "Scegliere il file delle colonne da coprire");
+    EXPECT_EQ(g.b.dialoghi.Testi(), QStringList{"Scegliere il file delle colonne da coprire"});
 
     // A itself, the three holes that leave out 3 and one of 4..6, and the
     // column that leaves out 6 and 8 (five numbers of A).
