@@ -124,10 +124,8 @@ TEST(FormatoNumeri, PanelCountsUseTheUsersSeparator) {
     if (!atteso.isEmpty()) EXPECT_EQ(combi::SeparatoreMigliaia(), atteso.toStdString());
     const QString sep = QString::fromStdString(combi::SeparatoreMigliaia());
     Banco b;
-    b.NumeriDa1A(20);
-    b.c.setClasse(5);
+    b.NumeriDa1A(20, 5);
     EXPECT_EQ(b.c.LabIntegrale()->text(), "15" + sep + "504");  // C(20,5)
-    b.NumeriDa1A(90);
-    b.c.setClasse(6);
+    b.NumeriDa1A(90, 6);
     EXPECT_EQ(b.c.LabIntegrale()->text(), "622" + sep + "614" + sep + "630");  // C(90,6)
 }

@@ -22,8 +22,10 @@ struct Banco {
     void Numeri(std::initializer_list<int> numeri) {
         for (int n : numeri) c.SelezionaNumero(static_cast<int16_t>(n), true);
     }
-    void NumeriDa1A(int quanti) {
+    // Picks 1..quanti, and then the class when one is given.
+    void NumeriDa1A(int quanti, int classe = 0) {
         for (int n = 1; n <= quanti; ++n) c.SelezionaNumero(static_cast<int16_t>(n), true);
+        if (classe > 0) c.setClasse(classe);
     }
     void Condizione(int colonna, const QString& nome, const QString& parametri = {}, const QString& punti = {},
                     const QString& recupero = {}, const QString& quadro = {}) {

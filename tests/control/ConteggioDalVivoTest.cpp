@@ -30,8 +30,7 @@ bool Mostra(const Banco& b, const QString& atteso) {
 // (the usual count of k-subsets of n with no two neighbours, C(n-k+1, k)).
 TEST(ConteggioDalVivo, TheCountEqualsTheDevelopmentAndFollowsEveryChange) {
     Banco b;
-    b.NumeriDa1A(18);
-    b.c.setClasse(5);
+    b.NumeriDa1A(18, 5);
     b.Condizione(1, "Consecutivi", "C", "0");
     ASSERT_TRUE(Mostra(b, "2002")) << b.c.LabPreviste()->text().toStdString();
     b.c.GestSviluppo();
@@ -76,8 +75,7 @@ TEST(ConteggioDalVivo, ANewRequestCancelsTheOneRunning) {
 // A development needs the cores: the count stops and starts again after it.
 TEST(ConteggioDalVivo, ADevelopmentCancelsTheCountAndRestartsIt) {
     Banco b;
-    b.NumeriDa1A(60);
-    b.c.setClasse(7);  // 386 million columns: a count of a few seconds
+    b.NumeriDa1A(60, 7);  // 386 million columns: a count of a few seconds
     ConteggioDalVivo* conteggio = b.c.findChild<ConteggioDalVivo*>();
     ASSERT_NE(conteggio, nullptr);
     ASSERT_TRUE(QTest::qWaitFor([&] { return conteggio->InCorso(); }, 5000));

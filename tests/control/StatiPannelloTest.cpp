@@ -23,8 +23,7 @@ TEST(StatiPannello, AGameChosenDuringARunIsAppliedWhenItEnds) {
     for (const Caso& caso : casi) {
         Banco b;
         b.c.CmbTipoGioco()->setCurrentText(caso.prima);
-        b.NumeriDa1A(25);
-        b.c.setClasse(6);  // 177100 columns, all kept
+        b.NumeriDa1A(25, 6);  // 177100 columns, all kept
         QSignalSpy occupato(&b.c, &CombiFiltroA::OccupatoCambiato);
         QString classeDurante, giocoDurante;
         bool giocoAbilitato = false;
@@ -55,8 +54,7 @@ TEST(StatiPannello, AGameChosenDuringARunIsAppliedWhenItEnds) {
 // and developing asks first ("No" is the default and changes nothing).
 TEST(StatiPannello, AnEmptyColumnBetweenConditionsIsMarkedAndAskedAbout) {
     Banco b;
-    b.NumeriDa1A(10);
-    b.c.setClasse(5);
+    b.NumeriDa1A(10, 5);
     GrigliaCondizioni* g = b.c.GetGridCond();
     b.Condizione(1, "Consecutivi", "C", "0");
     b.Condizione(3, "Ampiezza", "A", "4-6");
@@ -125,8 +123,7 @@ TEST(StatiPannello, ClosingAsksToSaveAndTheDefaultLosesNothing) {
 TEST(StatiPannello, NothingStartsWhileAReductionRuns) {
     QTemporaryDir cartella;
     Banco b;
-    b.NumeriDa1A(12);
-    b.c.setClasse(6);
+    b.NumeriDa1A(12, 6);
     b.c.GestSviluppo();
     const QString file = cartella.filePath("c.col");
     b.dialoghi.fileScelti = {file};

@@ -10,8 +10,7 @@
 
 TEST(SviluppoPannello, RefusedWhenTheClassExceedsThePicks) {
     Banco b;
-    b.c.setClasse(6);
-    b.NumeriDa1A(5);
+    b.NumeriDa1A(5, 6);
     b.c.GestSviluppo();
     EXPECT_EQ(b.dialoghi.Tipi(), QStringList{"esclamazione"});
     EXPECT_EQ(b.dialoghi.Testi(), QStringList{"Impostare il pronostico"});

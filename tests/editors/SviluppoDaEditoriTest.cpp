@@ -38,8 +38,7 @@ const std::vector<Inserita>& Inserite() {
 TEST(SviluppoDaEditori, IlControlloTieneLeColonneDelMotorePerGliStessiTesti) {
     Banco b;
     auto fabbrica = CollegaEditori(b.c, b.dialoghi);
-    b.NumeriDa1A(14);
-    b.c.setClasse(5);
+    b.NumeriDa1A(14, 5);
     b.c.GetLbQuadroRec()->addItem("1,1,-1");  // panel 1: one failed condition is forgiven
     for (int p = 2; p <= 20; ++p) b.c.GetLbQuadroRec()->addItem("-1,-1,-0");
 

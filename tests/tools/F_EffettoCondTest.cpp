@@ -18,8 +18,7 @@ namespace {
 
 // 10 numbers in class 5 (252 integral columns) under a link group.
 void SviluppaSistemaDiProva(Banco& b) {
-    b.c.setClasse(5);
-    b.NumeriDa1A(10);
+    b.NumeriDa1A(10, 5);
     b.Condizione(1, "Consecutivi", "C", "0");
     b.Condizione(2, "LinkOpen");
     b.Condizione(3, "Punti Col.", "01", "1", "0", "1");

@@ -73,8 +73,7 @@ TEST(F_Spoglio, OpensWithItsPagesAndTheMinimumOfTheGame) {
 
 TEST(F_Spoglio, ChecksTheDevelopedColumnsAndSummarisesByPoints) {
     Banco b;
-    b.NumeriDa1A(10);
-    b.c.setClasse(5);
+    b.NumeriDa1A(10, 5);
     b.c.GestSviluppo();
     ASSERT_EQ(b.c.QuantitaColonne(), 252);
     b.dialoghi.boxes.clear();
@@ -266,8 +265,7 @@ TEST(F_Spoglio, ConditionsOfTheGridAgainstTheDrawnNumbers) {
 
 TEST(F_Spoglio, HeaderClicksSortAndANewCheckKeepsTheOrder) {
     Banco b;
-    b.NumeriDa1A(10);
-    b.c.setClasse(5);
+    b.NumeriDa1A(10, 5);
     b.c.GestSviluppo();
     F_Spoglio f(b.c, b.dialoghi);
     f.show();
@@ -320,8 +318,7 @@ TEST(F_Spoglio, HeaderClicksSortAndANewCheckKeepsTheOrder) {
 
 SCREENSHOT(Spoglio) {
     Banco b;
-    b.NumeriDa1A(14);
-    b.c.setClasse(5);
+    b.NumeriDa1A(14, 5);
     b.Condizione(1, "Punti Col.", "01-02-03-04-\r\n05", "1-2-3");
     b.Condizione(2, "Consecutivi", "C", "0-1", "2");
     b.Condizione(3, "Consecutivi", "C", "0");

@@ -259,8 +259,7 @@ SCREENSHOT(VerificaArchivio) {
     Prova p;
     p.impostazioni.setValue("VerificaArchivio/Archivio",
                             QFileInfo(__FILE__).dir().filePath("../../esempi/ArchivioSintetico.txt"));
-    p.b.NumeriDa1A(20);
-    p.b.c.setClasse(5);
+    p.b.NumeriDa1A(20, 5);
     p.b.c.GestSviluppo();
     F_VerificaArchivio f(p.b.c, p.b.dialoghi, p.impostazioni);
     f.show();

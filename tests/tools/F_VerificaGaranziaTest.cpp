@@ -61,8 +61,7 @@ struct BancoGaranzia {
     // The control holds `tenute` for the picked numbers 1..8 in class 6.
     explicit BancoGaranzia(const std::vector<Colonna>& tenute, int gioco = 0) {
         b.c.CmbTipoGioco()->setCurrentIndex(gioco);
-        b.NumeriDa1A(8);
-        b.c.setClasse(6);
+        b.NumeriDa1A(8, 6);
         std::vector<Colonna> conZero = tenute;
         conZero.insert(conZero.begin(), Colonna{});
         b.c.ImpostaColonneSviluppo(conZero);

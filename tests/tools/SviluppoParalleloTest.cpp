@@ -20,8 +20,7 @@ namespace {
 // With `lavoratori` workers, or as many as the store says.
 void SistemaDiProva(Banco& b, int lavoratori = 0) {
     if (lavoratori > 0) b.c.setNumeroThreadsSviluppo(int16_t(lavoratori));
-    b.NumeriDa1A(18);
-    b.c.setClasse(5);  // 8568 columns
+    b.NumeriDa1A(18, 5);  // 8568 columns
     b.Condizione(1, "Consecutivi", "C", "0,1");
     b.Condizione(2, "Punti Col.", "01.02.03.04.05.06", "1,2", "0", "1");
     b.c.GetLbQuadroRec()->addItem("1,1,-1");  // panel 1: one failed condition may be recovered
