@@ -1,6 +1,5 @@
 // Entering, editing and cancelling a condition of every type, and the texts
 // it leaves in the grid.
-#include <QCheckBox>
 #include <QTest>
 #include <QLabel>
 

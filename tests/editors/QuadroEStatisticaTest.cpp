@@ -6,8 +6,6 @@
 // the bound check lost, the count would land outside its array, which only
 // the sanitizer run of scripts/test.sh, with its index checks, can see (the
 // counts shown stay the same).
-#include <QAbstractButton>
-#include <QDir>
 #include <QPainter>
 #include <QPixmap>
 #include <QLabel>

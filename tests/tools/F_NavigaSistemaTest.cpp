@@ -85,7 +85,9 @@ TEST(F_NavigaSistema, TreeOfTheLinkGroups) {
     }
 }
 
-TEST(F_NavigaSistema, ToolbarShowsOneModelessWindowAboveTheOthers) {
+// One modeless window above the others, whose open tree follows the
+// deletions, until Deinit unloads it.
+TEST(F_NavigaSistema, ToolbarShowsOneModelessWindowFollowingDeletionsUntilDeinit) {
     Banco b;
     CollegaStrumenti(b.c, b.dialoghi);
     SistemaConGruppi(b);
@@ -116,25 +118,15 @@ TEST(F_NavigaSistema, ToolbarShowsOneModelessWindowAboveTheOthers) {
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(b.c.findChildren<F_NavigaSistema*>().size(), 1) << "the closed window was unloaded";
     EXPECT_TRUE(b.dialoghi.boxes.empty());
-}
-
-// The open tree follows the deletions, and Deinit unloads the window.
-TEST(F_NavigaSistema, DeletingAConditionRebuildsTheOpenTreeUntilDeinit) {
-    Banco b;
-    CollegaStrumenti(b.c, b.dialoghi);
-    SistemaConGruppi(b);
-    b.c.EseguiComando("Naviga");
-    F_NavigaSistema* navigatore = Navigatore(b);
-    ASSERT_NE(navigatore, nullptr);
 
     b.c.SetColonnaGrid(5);  // Ampiezza: its group keeps only the LinkClose
     b.c.EseguiComando("Delete");
     EXPECT_EQ(Albero(*navigatore), "Sistema(Peso,LinkOpen(Resto,LinkOpen(LinkClose (1)),LinkClose (0-2)),"
-                                   "LinkOpen(Ponte,LinkClose (1)),Vortice)");
+                                   "LinkOpen(Ponte,LinkClose (1)),Vortice,Baricentro)");
     b.c.SetColonnaGrid(2);  // the outer LinkOpen: its close now ends at the root
     b.c.EseguiComando("Delete");
-    EXPECT_EQ(Albero(*navigatore),
-              "Sistema(Peso,Resto,LinkOpen(LinkClose (1)),LinkClose (0-2),LinkOpen(Ponte,LinkClose (1)),Vortice)");
+    EXPECT_EQ(Albero(*navigatore), "Sistema(Peso,Resto,LinkOpen(LinkClose (1)),LinkClose (0-2),"
+                                   "LinkOpen(Ponte,LinkClose (1)),Vortice,Baricentro)");
     b.c.Deinit();
     EXPECT_EQ(b.c.findChild<F_NavigaSistema*>(), nullptr);
     EXPECT_FALSE(FormCaricato("F_NavigaSistema"));
