@@ -34,9 +34,8 @@ TEST(SviluppoPannello, DevelopsAndReportsTheElapsedTime) {
     ASSERT_EQ(b.c.QuantitaColonne(), 1) << "class equal to the picks: one column";
     EXPECT_EQ(b.c.GetColonnaSviluppo(1), "03 17 45 88");
     EXPECT_EQ(b.c.GetColonnaSviluppo(2), "");
-    ASSERT_NE(b.dialoghi.Ultimo(), nullptr);
-    EXPECT_EQ(b.dialoghi.Ultimo()->tipo, "informazione");
-    EXPECT_EQ(b.dialoghi.Ultimo()->testo, "Fine sviluppo \r\n00:01:05");
+    EXPECT_EQ(b.dialoghi.Tipi(), QStringList{"informazione"});
+    EXPECT_EQ(b.dialoghi.Testi(), QStringList{"Fine sviluppo \r\n00:01:05"});
     b.c.GetColonneSviluppo(fuori);
     ASSERT_EQ(fuori.size(), 2u);
     EXPECT_EQ(fuori[1][2], 17);
