@@ -25,8 +25,6 @@ struct Caso {
     const char* quadro;
 };
 
-std::string V(const char* parola) { return combi::TestoVerticale(parola, 1); }
-
 const std::vector<Caso>& Casi() {
     static const std::vector<Caso> casi = {
         {combi::kPuntiColonna,
@@ -87,11 +85,6 @@ const std::vector<Caso>& Casi() {
     return casi;
 }
 
-std::string Parametri(const Caso& caso) {
-    if (caso.parametri != nullptr) return caso.parametri;
-    return V(VoceDelTipo(caso.tipo)->parolaChiave);
-}
-
 combi::TestiCondizione Testi(const TestiEditore& t, int tipo) {
     return {"", combi::NomeTipoCondizione(tipo), t.parametri.toStdString(), t.punti.toStdString(),
             t.recupero.toStdString(), t.quadro.toStdString()};
@@ -111,7 +104,10 @@ TEST(EditoriCondizione, InserisceModificaEAnnullaOgniTipo) {
         EXPECT_EQ(nuovo->Tag(), "ooo");
         EXPECT_TRUE(Messaggi(dialoghi).isEmpty()) << Messaggi(dialoghi).join("|").toStdString();
         const combi::TestiCondizione scritti = Testi(nuovo->GetParametri(), caso.tipo);
-        EXPECT_EQ(scritti[combi::kRigaParametri], Parametri(caso));
+        // No parameters of its own: the type's key word written down the cell.
+        const char* parola = VoceDelTipo(caso.tipo)->parolaChiave;
+        EXPECT_EQ(scritti[combi::kRigaParametri],
+                  caso.parametri ? std::string(caso.parametri) : combi::TestoVerticale(parola, 1));
         EXPECT_EQ(scritti[combi::kRigaPunti], caso.punti);
         EXPECT_EQ(scritti[combi::kRigaRecupero], caso.recupero);
         EXPECT_EQ(scritti[combi::kRigaQuadroRec], caso.quadro);
