@@ -213,7 +213,7 @@ void CondizioneCompilata::CompilaDistanze(Genere genere) {
     genere_ = genere;
     // Built over the gap g = x - last and moved up by the last number on
     // every block.
-    chiavi_ = kMaxNumero + 1;
+    chiavi_ = kChiaviDistanza;
     Tabula([&](uint32_t chiave, Maschera128& sup, Maschera128& rec) {
         if (genere == Genere::DistanzaMinima) {
             // min(d, g): d itself from g = d on, g below it.
@@ -230,7 +230,7 @@ void CondizioneCompilata::CompilaDistanze(Genere genere) {
             rec = (TuttiSe(Recupera(d)) & entro) |
                   Maschera128::Intervallo(std::max<int64_t>(minRecupero_, d + 1), maxRecupero_);
         }
-    }, kMaxNumero + 1);
+    }, kChiaviDistanza);
 }
 
 // The prefix's count a (it holds at most 19 numbers), one more for the

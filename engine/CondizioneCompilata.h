@@ -27,6 +27,7 @@ inline constexpr Maschera128 kDispari{0xAAAAAAAAAAAAAAAAull, 0xAAAAAAAAAAAAAAAAu
 // Masks by a two-bit code: bit 0 for the even candidates, bit 1 for the odd.
 inline constexpr std::array<Maschera128, 4> kPerParita{Maschera128{}, kPari, kDispari, Maschera128::Tutti()};
 inline constexpr uint32_t kSenzaDistanza = 0;  // the key of a prefix with no gap yet
+inline constexpr uint32_t kChiaviDistanza = kMaxNumero;  // no gap yet, then the gaps 1..89
 
 // A value outside 0..10 is in no point list.
 inline bool InElenco(uint16_t maschera, int64_t v) { return v >= 0 && v <= 10 && ((maschera >> v) & 1); }

@@ -32,10 +32,6 @@ struct Valutatore::Gruppo {
     bool finale = false;       // must pass on its own
 };
 
-void Valutatore::Contatori::Somma(const Contatori& altri) {
-    for (size_t i = 0; i < valori.size(); ++i) valori[i] += altri.valori[i];
-}
-
 void Valutatore::Contatori::Azzera() { std::fill(valori.begin(), valori.end(), 0); }
 
 bool Valutatore::Compilabile(const TabellaCondizioni& tabella) {

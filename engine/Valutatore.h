@@ -35,7 +35,6 @@ public:
     // minus the passes.
     struct Contatori {
         std::vector<int64_t> valori;
-        void Somma(const Contatori& altri);
         void Azzera();
     };
 

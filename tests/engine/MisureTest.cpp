@@ -139,6 +139,9 @@ TEST(Misure, ParametersOutsideTheirRange) {
     EXPECT_EQ(MisuraPosizioni(pc, 5), 0);   // beyond the class
     EXPECT_EQ(MisuraPosizioni(pc, 21), 0);  // outside the record
     EXPECT_EQ(MisuraPosizioni(pc, 0), 0);
+    // A class outside 0..20 is clamped: nothing read before the first number.
+    EXPECT_EQ(ProfilaColonna(-3, Col({1, 2, 3})).k, 0);
+    EXPECT_EQ(ProfilaColonna(25, Col({1, 2, 3})).k, 20);
 }
 
 }  // namespace

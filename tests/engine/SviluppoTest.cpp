@@ -207,6 +207,10 @@ TEST(Sviluppo, EdgeSizesAndBadParameters) {
     zero.numeri[0] = 0, oltre.numeri[5] = 91;
     EXPECT_THROW(SviluppaSistemaRiferimento(disordinati, o), Errore);
     for (const ParametriSviluppo& p : {zero, oltre}) EXPECT_THROW(SviluppaSistema(p, o), Errore) << p.numeri[0];
+    // The widest gap, 89: of the 4,005 pairs of 1..90 only 1 90 has it.
+    const ParametriSviluppo largo = Sistema(90, 2, {{"", "Distanza Minima", "", "89-89", "", ""},
+                                                    {"", "Distanza Massima", "", "89-89", "", ""}});
+    EXPECT_TRUE(SviluppaSistema(largo, o).colonne == std::vector<Colonna>{Col({1, 90})});
     for (const Quota quota : {Quota{4, 3}, Quota{0, 3}, Quota{1, 0}})
         EXPECT_THROW(SviluppaSistema(Sistema(6, 3), o, {.thread = 0, .quota = quota}), Errore) << quota.indice;
 }

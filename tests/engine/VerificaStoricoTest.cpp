@@ -216,6 +216,8 @@ TEST(VerificaStorico, StopKeepsTheDrawsAlreadyCounted) {
     class StopAlPrimo : public OsservatoreStorico {
     public:
         bool RichiestaStop() override { return true; }
+        void Progresso(size_t fatte, size_t totale) override { rapporti.emplace_back(fatte, totale); }
+        std::vector<std::pair<size_t, size_t>> rapporti;
     } stop;
     std::vector<Estrazione> archivio;
     for (int i = 0; i < 600; ++i)
@@ -227,8 +229,11 @@ TEST(VerificaStorico, StopKeepsTheDrawsAlreadyCounted) {
     const EsitoStorico intero = VerificaStoricoRiferimento(kColonne, archivio, p, tutto);
     for (int thread : {0, 1, 2}) {
         p.thread = thread;
+        stop.rapporti.clear();
         const EsitoStorico e = thread ? VerificaStorico(kColonne, archivio, p, stop)
                                       : VerificaStoricoRiferimento(kColonne, archivio, p, stop);
+        ASSERT_FALSE(stop.rapporti.empty());
+        EXPECT_EQ(stop.rapporti[0], std::make_pair(size_t(0), size_t(600)));  // the bar starts empty
         EXPECT_EQ(e.daControllare, 600u);
         if (thread < 2) {
             EXPECT_EQ(e.estrazioni.size(), thread ? 10u : 1u);
@@ -264,6 +269,9 @@ TEST(VerificaStorico, MoneyIsStakedOnEveryColumnAndDrawAndWonByThePrizeTable) {
     EXPECT_DOUBLE_EQ(s.perAnno[1].bilancio.giocato, 60);
     EXPECT_DOUBLE_EQ(s.perAnno[1].bilancio.vinto, 375);
     EXPECT_DOUBLE_EQ(s.totale.Saldo(), 305);
+    double perEstrazione = 0;  // the window's money, draw by draw
+    for (const EsitoEstrazione& x : e.estrazioni) perEstrazione += VintoEstrazione(x, 2.5, premi);
+    EXPECT_DOUBLE_EQ(perEstrazione, 375);
     premi[1] = -1;
     EXPECT_THROW(StimaBilancio(e, 4, 1, premi), Errore);
     EXPECT_THROW(StimaBilancio(e, 4, std::nan(""), TabellaPremi{}), Errore);
