@@ -74,6 +74,7 @@ TEST(Conteggi, MaskOf128NumbersAtTheEndsOfItsWords) {
     const Maschera128 spostata = m.Sposta(1);  // 127 drops out, 63 crosses into the high word
     EXPECT_EQ(spostata, (Maschera128{0b110, 0b11}));  // 1 2 | 64 65
     EXPECT_TRUE(Maschera128::Intervallo(90, 89).Vuota());
+    EXPECT_EQ(Maschera128::Intervallo(-5, 2), (Maschera128{0b111, 0}));  // from 0 on
     EXPECT_EQ(Maschera128::Intervallo(62, 65), (Maschera128{uint64_t{3} << 62, 0b11}));
 }
 

@@ -29,6 +29,7 @@ TEST(LetturaNumero, LeadingNumberRoundsHalvesToEvenInAnyLocale) {
         {"-0", 0, 0},       {"\r\n45", 45, 45}, {"-", 0, 0},       {".5", 0.5, 0},
         {"3.7", 3.7, 4},    {"+4", 4, 4},      {"7.", 7, 7},       {"-2.5x", -2.5, -2},
         {".", 0, 0},        {"-.x", 0, 0},     {"+.25", 0.25, 0},  {"99999999999", 99999999999.0, INT32_MAX},
+        {"1e5", 1, 1},      {"2.5e1", 2.5, 2},  // no exponent: the number ends at the letter
     };
     for (const char* locale : {"C", "it_IT.UTF-8"}) {
         ASSERT_NE(std::setlocale(LC_ALL, locale), nullptr) << locale << " is missing: run scripts/dipendenze.sh";

@@ -95,6 +95,7 @@ TEST(OrdinaLv, DistinctKeysReverseBetweenOrders) {
 TEST(OrdinaLv, HeaderIconsAndShortLists) {
     EXPECT_EQ(IconeIntestazioni(3, 5, 2, kDecrescente), (std::vector<int>{0, 2, 0}));
     EXPECT_EQ(IconeIntestazioni(3, 2, 1, kCrescente), (std::vector<int>{1, 0, 0}));  // two rows sort
+    EXPECT_EQ(IconeIntestazioni(3, 5, 3, kCrescente), (std::vector<int>{0, 0, 1}));
     EXPECT_TRUE(IconeIntestazioni(3, 1, 1, kDecrescente).empty());
     EXPECT_TRUE(IconeIntestazioni(3, 0, 1, kDecrescente).empty());
     const auto una = Righe({{"zeta", "1"}});

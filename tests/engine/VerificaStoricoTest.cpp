@@ -272,6 +272,7 @@ TEST(VerificaStorico, MoneyIsStakedOnEveryColumnAndDrawAndWonByThePrizeTable) {
     double perEstrazione = 0;  // the window's money, draw by draw
     for (const EsitoEstrazione& x : e.estrazioni) perEstrazione += VintoEstrazione(x, 2.5, premi);
     EXPECT_DOUBLE_EQ(perEstrazione, 375);
+    EXPECT_EQ(e.estrazioni[0].Vincenti(-1), 4);  // 2023-12-28: every column makes at least nothing
     premi[1] = -1;
     EXPECT_THROW(StimaBilancio(e, 4, 1, premi), Errore);
     EXPECT_THROW(StimaBilancio(e, 4, std::nan(""), TabellaPremi{}), Errore);
