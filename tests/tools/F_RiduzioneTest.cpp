@@ -60,7 +60,7 @@ std::vector<Colonna> Tenute(const CombiFiltroA& c) {
 }
 std::vector<Colonna> TenuteSenzaZero(const CombiFiltroA& c) {
     std::vector<Colonna> v = Tenute(c);
-    v.erase(v.begin());
+    if (!v.empty()) v.erase(v.begin());
     return v;
 }
 
