@@ -77,6 +77,9 @@ TEST(ConfrontoColonna, RowsTellTheOutcomeOfEachCondition) {
     EXPECT_EQ(PreparaTabellaCandidati({3, 8, 15, 0, 21}, 3),
               (std::vector<std::vector<int>>{{3, 8, 15}, {8, 15, 21}}));
     EXPECT_TRUE(PreparaTabellaCandidati({3, 8}, 3).empty());
+    std::string avviso;
+    EXPECT_TRUE(PreparaTabellaCandidati({3, 8}, 0, [&](const std::string& m) { avviso = m; }).empty());
+    EXPECT_EQ(avviso, "Impostare il numero di elementi per ciascuna combinazione");
 }
 
 }  // namespace

@@ -3,8 +3,7 @@
 // alive that no user can see: when the per-row condition order is re-sorted,
 // how many pieces wait for the writer and how many steps a piece holds,
 // the mark of a link's place (any negative will do), the early exits taken when no
-// candidate is left, an empty last step or piece, whether a block is a
-// whole row (it only chooses how the counts are added up), a share's bounds
+// candidate is left, an empty last step or piece, a share's bounds
 // before they are set (speed only), the level or key
 // count of a measure's table (one more is unused), the unreachable return
 // after a switch over every kind; and the merge of the threads' counters

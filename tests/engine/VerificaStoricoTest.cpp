@@ -273,6 +273,9 @@ TEST(VerificaStorico, MoneyIsStakedOnEveryColumnAndDrawAndWonByThePrizeTable) {
     for (const EsitoEstrazione& x : e.estrazioni) perEstrazione += VintoEstrazione(x, 2.5, premi);
     EXPECT_DOUBLE_EQ(perEstrazione, 375);
     EXPECT_EQ(e.estrazioni[0].Vincenti(-1), 4);  // 2023-12-28: every column makes at least nothing
+    TabellaPremi soloZero{};
+    soloZero[0] = 1;  // the 10eLotto pays for no number drawn
+    EXPECT_DOUBLE_EQ(VintoEstrazione(e.estrazioni[0], 2.5, soloZero), 10);
     premi[1] = -1;
     EXPECT_THROW(StimaBilancio(e, 4, 1, premi), Errore);
     EXPECT_THROW(StimaBilancio(e, 4, std::nan(""), TabellaPremi{}), Errore);
