@@ -1,4 +1,6 @@
-// Counts of columns and the masks of numbers.
+// Counts of columns and the masks of numbers. A count of masks that takes a
+// single member takes one bit plane whether one member is asked for as the
+// small case or through the bit width (1 either way).
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -10,7 +10,8 @@
 namespace combi {
 namespace {
 
-// The plain way: every integral column measured one at a time.
+// The plain way: every integral column measured one at a time. A level of
+// the table one key longer than its numbers need is never read.
 Distribuzione Enumerando(const Condizione& c, const std::vector<int>& numeri, int k) {
     Distribuzione d;
     Enumerazione e(numeri, k);

@@ -3,7 +3,8 @@
 // more columns than can be held, saves that fail. A temporary file's name
 // clashing with another's is left untested: the process id, a counter and a
 // random part make it practically impossible, so whether the clash is
-// retried or given up is never seen.
+// retried, how many times, or given up is never seen; nor which negative
+// marks a closed temporary file.
 #include "../CartellaDiProva.h"
 #include <gtest/gtest.h>
 #include <unistd.h>

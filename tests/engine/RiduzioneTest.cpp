@@ -1,8 +1,7 @@
 // The reduction, plain and indexed. A subset walk starting at position 0
 // (always empty) instead of 1, the number table of the bit-sliced columns or
-// the plain reduction's marks sized one row larger, and the dense lists'
-// first offset moved (every list moves by one alike), are changes no result
-// can show; nor are the
+// the plain reduction's marks or the dense lists' offsets sized one row
+// larger, are changes no result can show; nor are the
 // thresholds that choose between the dense and the sorted index, or between
 // a comparison sort and counting passes (speed and memory only).
 #include <gtest/gtest.h>
@@ -240,6 +239,18 @@ TEST(Riduzione, ClassOfASet) {
     // A longer column is compared on the first numbers: a class-6 file with a seventh byte.
     EXPECT_EQ(ClasseColonne({Col({1, 2, 3, 4, 5, 6}), Col({1, 2, 3, 4, 5, 6, 7})}), 6);
     EXPECT_THROW(ClasseColonne({Col({1, 2, 3, 4, 5}), Col({1, 2, 3, 4})}), Errore);
+}
+
+// A phase's bar: the integer percent, told when it changes, never past 100,
+// and nothing for a phase with no steps.
+TEST(Riduzione, ProgressIsTheWholePercentToldOnChange) {
+    struct Percentuali : OsservatoreRiduzione {
+        std::vector<int> viste;
+        void Percentuale(int p) override { viste.push_back(p); }
+    } oss;
+    riduzione::Controllo c(oss);
+    for (auto [passo, totale] : {std::pair{0, 0}, {1, 3}, {2, 6}, {2, 3}, {7, 3}}) c.Avanza(passo, totale);
+    EXPECT_EQ(oss.viste, (std::vector<int>{33, 66, 100}));
 }
 
 }  // namespace

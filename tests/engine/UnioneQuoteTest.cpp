@@ -1,6 +1,7 @@
 // Joining the workers' shares. How many columns are handed on at a time and
 // which share's condition table is copied before the counts are written in
-// change nothing a user sees (the counts are summed over every share).
+// change nothing a user sees (the counts are summed over every share); nor
+// does what a share's header fields hold before they are read.
 #include <gtest/gtest.h>
 
 #include "Conteggi.h"
