@@ -180,8 +180,8 @@ TEST(TabellaGaranzia, HandWorkedSystemsAndTheDefinition) {
         {tre, dieci, 10, Righe({0, 1, 2, 2, 3, 4, 4, 5, 6, 6})},
         {{venti}, test::DaA(1, 20), 20, Righe({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20})},
         {{}, {3, 4}, 5, Righe({0, 0})},
-        // 1, 2 and 3 first: the drawing misses the one column 4 5 6 up to three numbers.
-        {{Col({4, 5, 6})}, test::DaA(1, 6), 6, Righe({0, 0, 0, 1, 2, 3})},
+        // 1 first and in no column: the one drawing that misses 4 5 6 is the first tried.
+        {{Col({4, 5, 6})}, {1, 4, 5, 6}, 4, Righe({0, 1, 2, 3})},
         {tre, {}, 5, {}},
     };
     for (const Caso& c : casi) {
