@@ -63,6 +63,8 @@ TEST(EnumerazioneBlocchi, WholeRowsGoAtOnceAndEveryOtherStretchBlockByBlock) {
     EnumerazioneBlocchi classe1(sel, 1);
     EXPECT_EQ(Percorso(classe1, 4, 4), (Chiamate{"B | 3 5 8 13"}));
     EXPECT_EQ(Percorso(classe1, 9, 2), (Chiamate{"B | 21 34"}));
+    classe1.Posiziona(0);
+    EXPECT_EQ(Percorso(classe1, 6, 6), (Chiamate{"B | 3 5 8 13 21 34 *"}));
 
     // Class 4: a row is the columns that share their first two numbers.
     EnumerazioneBlocchi classe4(sel, 4);
