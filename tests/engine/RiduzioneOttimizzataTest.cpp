@@ -5,13 +5,16 @@
 // the tries before a fallback, taking an input column found at index 0, a restart refused at two columns,
 // the counters a stage or restart starts from (a stage's best uncovered
 // count reset on a tie too), when the starting temperature is worked out
-// and from how many samples, a change that leaves the cost as it is taken
+// and from how many samples, the count the nearest-column walk starts
+// below (-1 or -2), two restart candidates of equal loss and equal random
+// draw (never met), a higher-or-equal score handing a tie to the later
+// orbit, a change that leaves the cost as it is taken
 // at once or by the temperature, the empty sets a weighted search holds
 // before its orbits are built,
 // how many searches run, the orbit that stands in when none may enter, the
 // tie between two orbits changed at the same step (or read off the next
 // orbit's step), how often the clock is read, the default seed and time, a lone column sent through the search; the
-// hash's mixing of a mask (speed only); whether the neighbour lists are
+// hash's mixing of a mask and its table's size (speed only); whether the neighbour lists are
 // stored flat when they fill their limit exactly (memory only); and the
 // recount's own comparison made weaker, which a coherent state passes all
 // the same.

@@ -2,7 +2,8 @@
 // every class, and worked examples. Mutation testing leaves a few changes
 // alive that no user can see: when the per-row condition order is re-sorted,
 // how many pieces wait for the writer and how many steps a piece holds,
-// the mark of a link's place (any negative will do), the early exits taken when no
+// the mark of a link's place or of a group's condition (any negative will
+// do), a compiled condition's class before it is set, the early exits taken when no
 // candidate is left, an empty last step or piece, a share's bounds
 // before they are set (speed only), the level or key
 // count of a measure's table (one more is unused), the unreachable return
