@@ -121,7 +121,7 @@ TEST(AspettoPannello, WorkersDefaultToTheCoresWhenNothingIsStored) {
 // names the separator that environment must give).
 TEST(FormatoNumeri, PanelCountsUseTheUsersSeparator) {
     const QByteArray atteso = qgetenv("CF_SEPARATORE_ATTESO");
-    if (!atteso.isEmpty()) EXPECT_EQ(combi::SeparatoreMigliaia(), atteso.toStdString());
+    if (!atteso.isEmpty()) { EXPECT_EQ(combi::SeparatoreMigliaia(), atteso.toStdString()); }
     const QString sep = QString::fromStdString(combi::SeparatoreMigliaia());
     Banco b;
     b.NumeriDa1A(20, 5);

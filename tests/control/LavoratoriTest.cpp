@@ -90,7 +90,7 @@ TEST(Lavoratori, AWorkerFileCountsItsLengthOver20RoundedAndMustExist) {
         b.c.txtMsgFromDll(2)->setText(file.fileName());
         b.c.txtMsgFromDll(3)->setText(FileLavoratore(cartella, 3));  // 3 columns
         EXPECT_EQ(b.c.QuantitaColonne(), lunghezza < 0 ? 0 : 1 + attese + 3);
-        if (lunghezza == 30) EXPECT_EQ(b.c.GetColonnaSviluppo(3), "21 22 23 24 25 26 27 28 29 30");
+        if (lunghezza == 30) { EXPECT_EQ(b.c.GetColonnaSviluppo(3), "21 22 23 24 25 26 27 28 29 30"); }
         ASSERT_EQ(b.dialoghi.boxes.size(), 1u) << "the elapsed time, or the failure alone";
         const BoxMostrato& box = b.dialoghi.boxes[0];
         EXPECT_EQ(box.tipo, lunghezza < 0 ? "critico" : "informazione") << "an empty file is no failure";

@@ -145,7 +145,7 @@ TEST(SviluppoPannello, StopAskedDuringTheDevelopment) {
         // A stopped run says so, and where it stopped; a whole one does not.
         const qsizetype stop = testi[1].indexOf("\r\nSviluppo interrotto dopo ");
         EXPECT_EQ(stop >= 0, interrompi);
-        if (interrompi) EXPECT_EQ(Cifre(testi[1].mid(stop)), "20000");
+        if (interrompi) { EXPECT_EQ(Cifre(testi[1].mid(stop)), "20000"); }
         const int attese = interrompi ? 20000 : 53130;
         EXPECT_EQ(b.c.QuantitaColonne(), attese);
         EXPECT_EQ(Cifre(b.c.LabSviluppate()->text()), QString::number(attese));

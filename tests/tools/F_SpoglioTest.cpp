@@ -253,7 +253,7 @@ TEST(F_Spoglio, ConditionsOfTheGridAgainstTheDrawnNumbers) {
     const QColor colori[5] = {verde, {}, giallo, rosso, {}};
     for (int r = 0; r < 5; ++r) {
         EXPECT_EQ(Testi(lista->topLevelItem(r)), attese[r]) << r;
-        if (colori[r].isValid()) EXPECT_EQ(lista->topLevelItem(r)->foreground(3).color(), colori[r]) << r;
+        if (colori[r].isValid()) { EXPECT_EQ(lista->topLevelItem(r)->foreground(3).color(), colori[r]) << r; }
     }
 
     // The same numbers in another order are not sorted first: 21 right
