@@ -1,7 +1,6 @@
 #include "RicercaLocale.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <tuple>
 
