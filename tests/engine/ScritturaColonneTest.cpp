@@ -3,9 +3,9 @@
 // in order; a full disk must leave the old file and no partial one. Whether a
 // batch of exactly 65,536 bytes (or any size up to 128 KB) goes straight to
 // the file or through the buffer, and whether a batch that just fills the
-// buffer empties it first, change only when the bytes reach it, never which. The full
-// disk is brought about with a file size limit (EFBIG); a real ENOSPC, which
-// no test can cause, is read by the same comparison.
+// buffer empties it first, change only when the bytes reach it, never which.
+// The full disk is brought about with a file size limit (EFBIG); a real
+// ENOSPC, which no test can cause, is read by the same comparison.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
