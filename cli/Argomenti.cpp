@@ -37,7 +37,7 @@ std::optional<std::string> Argomenti::Opzione(const std::string& nome) const {
 }
 
 int LeggiIntero(const std::string& testo, int minimo, int massimo, const std::string& nome) {
-    int valore = 0;
+    int valore{};
     const auto [fine, errore] = std::from_chars(testo.data(), testo.data() + testo.size(), valore);
     if (errore != std::errc() || fine != testo.data() + testo.size() || valore < minimo || valore > massimo)
         throw ErroreUso{nome + " deve essere un numero intero tra " + std::to_string(minimo) + " e " +

@@ -26,7 +26,7 @@ public:
 };
 
 int LeggiNumero(std::string_view testo) {
-    int valore = 0;
+    int valore{};
     const auto [fine, errore] = std::from_chars(testo.data(), testo.data() + testo.size(), valore);
     if (errore != std::errc() || fine != testo.data() + testo.size() || valore < 1 || valore > kMaxNumero)
         throw ErroreUso{"--numeri: inserire numeri da 1 a 90 separati da virgole o intervalli, per esempio 1-20 "

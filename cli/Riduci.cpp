@@ -58,7 +58,7 @@ private:
     bool scritto_ = false;
     std::string fase_;
     std::string migliore_;
-    int percento_ = 0;
+    int percento_{};
 };
 
 // The options of the optimising reduction, refused without --ottimizza.

@@ -85,7 +85,7 @@ public:
     int SullaMacchina() const { return sullaMacchina_; }  // processes sharing this host
 
 private:
-    int rango_ = 0;
+    int rango_{};
     int processi_ = 1;
     int sullaMacchina_ = 1;
 };
@@ -110,7 +110,7 @@ void InviaByte(const std::vector<uint8_t>& dati, int destinatario, int etichetta
 }
 
 std::vector<uint8_t> RiceviByte(int mittente, int etichetta) {
-    uint64_t n = 0;
+    uint64_t n{};
     Ricevi(&n, 1, MPI_UINT64_T, mittente, etichetta);
     std::vector<uint8_t> dati(n);
     for (uint64_t da = 0; da < n; da += kPezzo)
@@ -121,7 +121,7 @@ std::vector<uint8_t> RiceviByte(int mittente, int etichetta) {
 // A failure as it travels to process 0: the error number (-1 for a wrong
 // command line) and the Italian description.
 struct Guasto {
-    int numero = 0;
+    int numero{};
     std::string messaggio;
 };
 
@@ -180,7 +180,7 @@ uint64_t Impronta(const FileSistema& s) {
 
 bool StessoSistemaOvunque(const FileSistema& s) {
     const uint64_t mia = Impronta(s);
-    uint64_t minima = 0, massima = 0;
+    uint64_t minima{}, massima{};
     MPI_Allreduce(&mia, &minima, 1, MPI_UINT64_T, MPI_MIN, MPI_COMM_WORLD);
     MPI_Allreduce(&mia, &massima, 1, MPI_UINT64_T, MPI_MAX, MPI_COMM_WORLD);
     return minima == massima;
@@ -191,7 +191,7 @@ struct Richiesta {
     std::string colonne;
     std::optional<std::string> contatori;
     bool riferimento = false;
-    int thread = 0;
+    int thread{};
 };
 
 Richiesta LeggiRichiesta(const Argomenti& a, const SessioneMpi& mpi) {

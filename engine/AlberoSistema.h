@@ -15,7 +15,7 @@ inline const std::string kChiaveRadice = "sistema";
 struct NodoSistema {
     std::string chiave;    // "sistema" for the root, "Cond" + grid column otherwise
     std::string testo;     // shown text
-    int colonna = 0;       // grid column the node stands for; 0 for the root
+    int colonna{};         // grid column the node stands for; 0 for the root
     std::string genitore;  // key of the parent node; empty for the root
 };
 

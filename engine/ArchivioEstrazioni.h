@@ -55,18 +55,18 @@ std::string TestoData(DataEstrazione data);  // "2024-03-12"
 inline int AnnoDi(DataEstrazione data) { return data / 10000; }
 
 struct Estrazione {
-    DataEstrazione data = 0;
-    uint8_t ruota = 0;                  // index in kNomiRuote
-    uint8_t quanti = 0;                 // drawn numbers: 5, 20 or 6
+    DataEstrazione data{};
+    uint8_t ruota{};                    // index in kNomiRuote
+    uint8_t quanti{};                   // drawn numbers: 5, 20 or 6
     std::array<uint8_t, 20> numeri{};   // as the line lists them, 0 beyond `quanti`
-    uint8_t jolly = 0;                  // SuperEnalotto, 0 when the line has none
-    uint8_t superstar = 0;              // SuperEnalotto, 0 when the line has none
-    int32_t riga = 0;                   // 1-based line of the file
+    uint8_t jolly{};                    // SuperEnalotto, 0 when the line has none
+    uint8_t superstar{};                // SuperEnalotto, 0 when the line has none
+    int32_t riga{};                     // 1-based line of the file
     bool operator==(const Estrazione&) const = default;
 };
 
 struct SegnalazioneArchivio {
-    int32_t riga = 0;
+    int32_t riga{};
     std::string messaggio;  // "Riga 12: il numero 91 è fuori da 1 a 90"
 };
 

@@ -20,13 +20,13 @@ namespace combi {
 using TabellaPremi = std::array<double, kMaxClasse + 1>;
 
 struct Bilancio {
-    double giocato = 0;
-    double vinto = 0;
+    double giocato{};
+    double vinto{};
     double Saldo() const { return vinto - giocato; }
 };
 
 struct BilancioAnno {
-    int anno = 0;
+    int anno{};
     Bilancio bilancio;
 };
 

@@ -31,9 +31,9 @@ public:
     void Conta(const Estrazione* estrazioni, size_t quante, std::array<int64_t, kMaxClasse + 1>* conte) const;
 
 private:
-    size_t colonne_ = 0;
-    size_t parole_ = 0;        // 64-bit words per row
-    int classeMassima_ = 0;    // no column scores more
+    size_t colonne_{};
+    size_t parole_{};          // 64-bit words per row
+    int classeMassima_{};      // no column scores more
     std::vector<uint64_t> righe_;            // row n at n * parole_, n 1..90
     std::array<bool, kMaxNumero + 1> presente_{};  // some column holds n: an empty row is skipped
 };

@@ -47,7 +47,7 @@ private:
 
     uint64_t soglia_;
     std::string cartella_;
-    uint64_t quante_ = 0;
+    uint64_t quante_{};
     std::vector<Colonna> memoria_;
     std::unique_ptr<FileMappato> file_;
 };

@@ -39,16 +39,16 @@ struct Condizione {
     std::array<int16_t, 91> Numeri{};    // set or pattern, indexed 0..90
     std::array<int16_t, 11> Punti{};     // accepted point values 0..10
     std::array<int16_t, 11> Recupero{};  // recoverable point values 0..10
-    int16_t Parametro = 0;
-    int32_t MinPunti = 0;
-    int32_t MaxPunti = 0;
-    int32_t MinRecupero = 0;
-    int32_t MaxRecupero = 0;
-    int16_t QuadroRec = 0;
-    int32_t Valore = 0;
-    int32_t ContaFallite = 0;
-    int32_t ContaSuperate = 0;
-    int32_t ContaRecuperabili = 0;
+    int16_t Parametro{};
+    int32_t MinPunti{};
+    int32_t MaxPunti{};
+    int32_t MinRecupero{};
+    int32_t MaxRecupero{};
+    int16_t QuadroRec{};
+    int32_t Valore{};
+    int32_t ContaFallite{};
+    int32_t ContaSuperate{};
+    int32_t ContaRecuperabili{};
     int16_t Superata = kFalso;
     int16_t Recuperabile = kFalso;
     int16_t EsitoGruppo = kFalso;
@@ -59,9 +59,9 @@ struct Condizione {
 inline constexpr int kLunghezzaCondizione = 270;  // packed record length in files
 
 struct QuadroRecupero {
-    int16_t Attivo = 0;
-    int16_t Minimo = 0;
-    int16_t Massimo = 0;
+    int16_t Attivo{};
+    int16_t Minimo{};
+    int16_t Massimo{};
 
     bool operator==(const QuadroRecupero&) const = default;
 };

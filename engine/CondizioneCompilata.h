@@ -152,14 +152,14 @@ private:
 
     Genere genere_;
     bool elenco_ = false;          // judged on a point list, else on a range
-    int k_ = 0;
-    uint16_t punti_ = 0, recupero_ = 0;
-    int32_t minPunti_ = 0, maxPunti_ = 0, minRecupero_ = 0, maxRecupero_ = 0;
-    int32_t costante_ = 0;         // Costante's value; Posizioni' position
-    int scarto_ = 0;               // Vicini: the gap counted
+    int k_{};
+    uint16_t punti_{}, recupero_{};
+    int32_t minPunti_{}, maxPunti_{}, minRecupero_{}, maxRecupero_{};
+    int32_t costante_{};           // Costante's value; Posizioni' position
+    int scarto_{};                 // Vicini: the gap counted
     bool ultimaScelta_ = false;    // Peso: the last position is among the chosen
     bool prefissoScelto_ = false;  // Peso: every prefix position is chosen
-    uint32_t caselle_ = 0;         // Peso: bit i-1 for position i
+    uint32_t caselle_{};           // Peso: bit i-1 for position i
     uint32_t chiavi_ = 1;
     uint32_t chiaviRiga_ = 1;
     bool penultimaScelta_ = false;  // Peso: position k-1 is among the chosen

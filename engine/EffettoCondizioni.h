@@ -27,7 +27,7 @@ enum ColonnaEffetto : int {
 inline constexpr int kColonneEffetto = 8;
 
 struct RigaEffetto {
-    int id = 0;  // the condition's grid column (table index + 1)
+    int id{};    // the condition's grid column (table index + 1)
     // Texts of the report's columns; a link row ("LinkOpen", "LinkClose")
     // has no counters of its own, so only "Id" and "Condizione" are filled.
     std::array<std::string, kColonneEffetto> testi;

@@ -82,7 +82,7 @@ private:
     Maschera128 scelti_;
     std::array<int, kMaxClasse> pos_{};       // 0-based indices into sel_ of the prefix
     std::array<Prefisso, kMaxClasse> stati_{};  // stati_[d]: the first d numbers
-    int prossimo_ = 0;                         // index into sel_ of the next candidate
+    int prossimo_{};                           // index into sel_ of the next candidate
     bool finita_ = false;
 };
 

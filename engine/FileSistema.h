@@ -22,8 +22,8 @@ inline constexpr size_t kMassimoCondizioniFile = 200;
 
 struct IntestazioneSistema {
     std::string firma = "SISTOCX";         // 7 bytes, read but never checked
-    int16_t classe = 0;
-    int16_t riduzione = 0;                 // 0 for the blank "Riduzione N-K" entry
+    int16_t classe{};
+    int16_t riduzione{};                   // 0 for the blank "Riduzione N-K" entry
     std::array<int16_t, 91> numeri{};      // 1..90: -1 picked, 0 not picked
 };
 

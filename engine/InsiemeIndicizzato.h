@@ -11,7 +11,8 @@ namespace combi {
 
 class InsiemeIndicizzato {
 public:
-    explicit InsiemeIndicizzato(size_t n) : posizione_(n, -1) {}
+    InsiemeIndicizzato() = default;
+    explicit InsiemeIndicizzato(size_t n) : posizione_(n, kFuori) {}
 
     void Inserisci(uint32_t i) {
         posizione_[i] = int32_t(membri_.size());
@@ -23,10 +24,10 @@ public:
         membri_[size_t(p)] = ultimo;
         posizione_[ultimo] = p;
         membri_.pop_back();
-        posizione_[i] = -1;
+        posizione_[i] = kFuori;
     }
 
-    bool Contiene(uint32_t i) const { return posizione_[i] >= 0; }
+    bool Contiene(uint32_t i) const { return posizione_[i] != kFuori; }
     const std::vector<uint32_t>& Membri() const { return membri_; }
     uint32_t operator[](size_t p) const { return membri_[p]; }
     size_t size() const { return membri_.size(); }
@@ -36,8 +37,10 @@ public:
     auto end() const { return membri_.end(); }
 
 private:
+    static constexpr int32_t kFuori = -1;  // the place of a non-member
+
     std::vector<uint32_t> membri_;
-    std::vector<int32_t> posizione_;  // place in membri_, -1 for a non-member
+    std::vector<int32_t> posizione_;  // place in membri_, or kFuori
 };
 
 }  // namespace combi

@@ -12,8 +12,8 @@
 namespace combi {
 
 struct Maschera128 {
-    uint64_t basso = 0;  // numbers 0..63
-    uint64_t alto = 0;   // numbers 64..127
+    uint64_t basso{};    // numbers 0..63
+    uint64_t alto{};     // numbers 64..127
 
     static constexpr Maschera128 Tutti() { return {~uint64_t{0}, ~uint64_t{0}}; }
 

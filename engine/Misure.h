@@ -14,10 +14,10 @@ namespace combi {
 // A column prepared once for all the conditions that judge it: the numbers
 // c[1..k], their parities p[1..k] (1 = odd) and their sum.
 struct ProfiloColonna {
-    int k = 0;
+    int k{};
     std::array<int, kMaxClasse + 2> c{};
     std::array<int, kMaxClasse + 2> p{};
-    int32_t somma = 0;
+    int32_t somma{};
 };
 
 // k outside 0..20 is clamped to the record's 20 positions.

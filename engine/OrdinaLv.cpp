@@ -14,7 +14,7 @@ namespace {
 
 // The row copy of the sort: the key of its kind, and the row itself.
 struct CopiaRiga {
-    int64_t numero = 0;
+    int64_t numero{};
     std::string testo;
     RigaLista riga;
 };

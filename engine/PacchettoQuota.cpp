@@ -37,8 +37,8 @@ std::vector<uint8_t> CodificaQuota(const RisultatoSviluppo& quota) {
 
 RisultatoSviluppo DecodificaQuota(const uint8_t* dati, size_t lunghezza) {
     LittleEndianReader r(dati, lunghezza);
-    int32_t basso = 0, alto = 0, blocco = 0;
-    uint8_t interrotto = 0;
+    int32_t basso{}, alto{}, blocco{};
+    uint8_t interrotto{};
     if (!r.I32(basso) || !r.I32(alto) || !r.U8(interrotto) || !r.I32(blocco)) Troncato();
     if (blocco < 0 || size_t(blocco) > r.Resto() || interrotto > 1) Troncato();
     const size_t colonne = lunghezza - kLunghezzaTestata - size_t(blocco);

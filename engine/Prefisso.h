@@ -17,16 +17,16 @@ namespace combi {
 struct Prefisso {
     static constexpr int32_t kNessunaDistanza = INT32_MAX;
 
-    int lunghezza = 0;           // how many numbers, 0..19
-    int32_t somma = 0;
-    int primo = 0, ultimo = 0;   // 0 while empty
-    uint32_t parita = 0;         // bit i-1 set when position i holds an odd number
+    int lunghezza{};             // how many numbers, 0..19
+    int32_t somma{};
+    int primo{}, ultimo{};       // 0 while empty
+    uint32_t parita{};           // bit i-1 set when position i holds an odd number
     Maschera128 numeri;
     int32_t distanzaMinima = kNessunaDistanza;  // smallest gap; none below two numbers
-    int32_t distanzaMassima = 0;                // largest gap; 0 below two numbers
-    int32_t consecutivi = 0;     // gaps of 1
-    int32_t ponti = 0;           // gaps of 2
-    int32_t interruzioni = 0;    // neighbours of different parity
+    int32_t distanzaMassima{};                  // largest gap; 0 below two numbers
+    int32_t consecutivi{};       // gaps of 1
+    int32_t ponti{};             // gaps of 2
+    int32_t interruzioni{};      // neighbours of different parity
     Colonna colonna;             // the numbers in positions 1..lunghezza, 0 beyond
 
     // Becomes the prefix p followed by n (n above p's last number). Written

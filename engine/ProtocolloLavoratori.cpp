@@ -13,7 +13,7 @@ constexpr std::string_view kTenute = "tenute ";
 constexpr std::string_view kFine = "fine ";
 
 std::optional<uint64_t> Numero(std::string_view testo) {
-    uint64_t n = 0;
+    uint64_t n{};
     const auto [fine, errore] = std::from_chars(testo.data(), testo.data() + testo.size(), n);
     if (errore != std::errc() || fine != testo.data() + testo.size() || testo.empty()) return std::nullopt;
     return n;

@@ -18,7 +18,7 @@ namespace combi {
 struct RigaRapporto {
     enum class Tipo { Testate, Tenute, Fine };
     Tipo tipo;
-    uint64_t numero = 0;   // Testate, Tenute
+    uint64_t numero{};     // Testate, Tenute
     std::string file;      // Fine
 };
 

@@ -28,9 +28,9 @@ public:
 
 private:
     std::vector<std::unique_ptr<Ricerca>> ricerche_;
-    size_t turno_ = 0;
-    size_t migliore_ = 0;    // the search holding the smallest set, ties to the first found
-    size_t dimensione_ = 0;  // its size when last reported: a search also shrinks its own best
+    size_t turno_{};
+    size_t migliore_{};      // the search holding the smallest set, ties to the first found
+    size_t dimensione_{};    // its size when last reported: a search also shrinks its own best
 };
 
 }  // namespace combi::riduzione

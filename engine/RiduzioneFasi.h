@@ -13,8 +13,8 @@
 namespace combi::riduzione {
 
 struct Rappresentativita {
-    int32_t indice = 0;  // 1-based column index; 0 = not analysed
-    int32_t conta = 0;   // columns covered
+    int32_t indice{};    // 1-based column index; 0 = not analysed
+    int32_t conta{};     // columns covered
     bool operator==(const Rappresentativita&) const = default;
 };
 

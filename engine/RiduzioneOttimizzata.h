@@ -30,7 +30,7 @@ inline constexpr const char* kFaseOttimizzazione = "Ottimizzazione in corso ..."
 struct OpzioniOttimizzazione {
     double secondi = 60;         // time budget of the search, after the greedy reduction
     uint64_t seme = 1;           // seed of the tie-breaking choices
-    uint64_t passiMassimi = 0;   // 0 = no limit; a limit makes the result independent of the clock
+    uint64_t passiMassimi{};     // 0 = no limit; a limit makes the result independent of the clock
 };
 
 class OsservatoreOttimizzazione : public OsservatoreRiduzione {

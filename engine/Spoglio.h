@@ -36,16 +36,16 @@ std::string ControllaEstrazione(std::string_view testo);
 
 // One row of the "Vincite" list.
 struct RigaVincita {
-    int64_t colonna = 0;   // 1-based position in the column list
+    int64_t colonna{};     // 1-based position in the column list
     std::string numeri;    // "05 12 33 41 90": the non-zero numbers, two digits each
-    int punti = 0;
+    int punti{};
     bool operator==(const RigaVincita&) const = default;
 };
 
 // One row of the "Riepilogo" list.
 struct RigaRiepilogo {
     std::string vincita;   // "Vincite con 5 punti " (the trailing blank is part of it)
-    int64_t colonne = 0;
+    int64_t colonne{};
     bool operator==(const RigaRiepilogo&) const = default;
 };
 

@@ -34,8 +34,8 @@ public:
 
 struct ParametriSviluppo {
     std::vector<int> numeri;        // the picked numbers, ascending, 1..90
-    int classe = 0;                 // numbers per column, 1..20
-    int riduzione = 0;              // K of "Riduzione N-K"; 0 for none
+    int classe{};                   // numbers per column, 1..20
+    int riduzione{};                // K of "Riduzione N-K"; 0 for none
     TabellaCondizioni condizioni;   // at least one record
     TabellaQuadri quadri{};
 };
@@ -51,7 +51,7 @@ struct Quota {
 using AvviaThread = std::function<std::thread(std::function<void()> lavoro)>;
 
 struct OpzioniSviluppo {
-    int thread = 0;  // 0: one per hardware thread
+    int thread{};    // 0: one per hardware thread
     Quota quota;
 };
 
@@ -65,8 +65,8 @@ public:
 
 // What a development leaves besides its columns.
 struct EsitoSviluppo {
-    uint64_t testate = 0;           // columns tested
-    uint64_t tenute = 0;            // columns kept
+    uint64_t testate{};             // columns tested
+    uint64_t tenute{};              // columns kept
     TabellaCondizioni condizioni;   // counters summed over the tested columns;
                                     // Valore and flags of the last tested column
     bool interrotto = false;        // a stop request ended the run early
@@ -74,7 +74,7 @@ struct EsitoSviluppo {
 
 struct RisultatoSviluppo {
     std::vector<Colonna> colonne;   // kept columns in enumeration order
-    uint64_t testate = 0;
+    uint64_t testate{};
     TabellaCondizioni condizioni;
     bool interrotto = false;
 };
@@ -85,8 +85,8 @@ int DistanzaRiduzione(int classe, int riduzione);
 
 // The first and one-past-last rank of a share of T columns.
 struct Tratto {
-    uint64_t inizio = 0;
-    uint64_t fine = 0;
+    uint64_t inizio{};
+    uint64_t fine{};
 };
 Tratto TrattoDellaQuota(uint64_t totale, const Quota& quota);
 

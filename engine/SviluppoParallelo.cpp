@@ -97,8 +97,8 @@ private:
 
     std::mutex mutex_;
     std::condition_variable cambiato_;
-    uint64_t prossimo_ = 0;     // next piece to hand out
-    uint64_t consegnati_ = 0;   // pieces committed so far
+    uint64_t prossimo_{};       // next piece to hand out
+    uint64_t consegnati_{};     // pieces committed so far
     bool fine_ = false;
     // The first failure of any thread (out of memory, an observer's error,
     // a full disk): everyone stops, the threads are joined, it is raised again.

@@ -75,10 +75,10 @@ private:
     std::vector<std::vector<uint32_t>> colonneDi_;  // per chosen number, the kept columns holding it
     std::vector<int> conta_;                         // per kept column, its numbers in the subset
     std::vector<int64_t> istogramma_;                // columns per count
-    int massimo_ = 0;
-    int migliore_ = 0;
-    int minimo_ = 0;
-    uint64_t nodi_ = 0;
+    int massimo_{};
+    int migliore_{};
+    int minimo_{};
+    uint64_t nodi_{};
     riduzione::Controllo& controllo_;
 };
 

@@ -12,23 +12,26 @@ constexpr size_t kUltimi = kMaxNumero + 1;  // the prefix's last number, 0..90
 constexpr uint32_t kBlocchiPerRiordino = 4096;
 constexpr size_t kMembriVeloci = 3;  // panels and groups up to this size count without loops
 constexpr size_t kMassimoBlocchi = kMaxNumero;  // blocks of a row: one per number at position k-1
+// No condition, group or judged position: a link's own row, a plain row's
+// group, a condition judged on neither a list nor a range.
+constexpr int kNessuno = -1;
 
 }  // namespace
 
 struct Valutatore::Quadro {
     std::vector<int> membri;   // judged conditions of the panel
     std::vector<int> finali;   // members that must pass on their own
-    int minimo = 0, massimo = 0;
-    uint64_t valori = 0;       // the counts minimo..massimo, for few members
+    int minimo{}, massimo{};
+    uint64_t valori{};         // the counts minimo..massimo, for few members
 };
 
 struct Valutatore::Gruppo {
     std::vector<int> foglie;   // judged member conditions
     std::vector<int> proprie;  // the leaves in no active panel, whose masks the group builds
-    int sempre = 0;            // members that pass on every column (type 0)
+    int sempre{};              // members that pass on every column (type 0)
     std::vector<int> figli;    // member groups, already settled
     std::vector<int> accettati;  // counts of passed members that pass the group
-    uint64_t valori = 0;         // the same as bits, for few members
+    uint64_t valori{};           // the same as bits, for few members
     bool finale = false;       // must pass on its own
 };
 
@@ -40,7 +43,7 @@ bool Valutatore::Compilabile(const TabellaCondizioni& tabella) {
 
 Valutatore::Valutatore(const TabellaCondizioni& tabella, const TabellaQuadri& quadri, int classe,
                        const std::vector<int>& numeri)
-    : posto_(tabella.size(), -1) {
+    : posto_(tabella.size(), kNessuno) {
     for (size_t i = 0; i < tabella.size(); ++i) {
         if (!GiudicataSuElenco(tabella[i].Tipo) && !GiudicataSuIntervallo(tabella[i].Tipo)) continue;
         posto_[i] = int(condizioni_.size());
@@ -79,7 +82,7 @@ void Valutatore::CompilaGruppi(const TabellaCondizioni& tabella) {
     // groups form on every column, only their verdicts change.
     struct Voce { int tipo; int condizione; int gruppo; };
     std::vector<Voce> voci;
-    for (size_t i = 0; i < tabella.size(); ++i) voci.push_back({tabella[i].Tipo, int(i), -1});
+    for (size_t i = 0; i < tabella.size(); ++i) voci.push_back({tabella[i].Tipo, int(i), kNessuno});
     std::vector<bool> inQuadro(condizioni_.size());
     for (const Quadro& q : quadri_)
         for (int m : q.membri) inQuadro[size_t(m)] = true;
@@ -92,10 +95,10 @@ void Valutatore::CompilaGruppi(const TabellaCondizioni& tabella) {
         Gruppo g;
         for (size_t i = apertura; i < chiusura; ++i) {
             const Voce& v = voci[i];
-            const int posto = v.condizione >= 0 ? posto_[size_t(v.condizione)] : -1;
-            if (v.gruppo >= 0) g.figli.push_back(v.gruppo);
+            const int posto = v.condizione != kNessuno ? posto_[size_t(v.condizione)] : kNessuno;
+            if (v.gruppo != kNessuno) g.figli.push_back(v.gruppo);
             else if (v.tipo == kLinkOpen) continue;  // never passed itself
-            else if (posto < 0) ++g.sempre;
+            else if (posto == kNessuno) ++g.sempre;
             else {
                 g.foglie.push_back(posto);
                 if (!inQuadro[size_t(posto)]) g.proprie.push_back(posto);
@@ -108,16 +111,16 @@ void Valutatore::CompilaGruppi(const TabellaCondizioni& tabella) {
         for (int v : g.accettati)
             if (v < 64) g.valori |= uint64_t{1} << v;
         gruppi_.push_back(std::move(g));
-        voci[apertura] = {kNessuna, -1, int(gruppi_.size()) - 1};
+        voci[apertura] = {kNessuna, kNessuno, int(gruppi_.size()) - 1};
         voci.erase(voci.begin() + long(apertura) + 1, voci.begin() + long(chiusura) + 1);
     }
     for (const Voce& v : voci) {
-        if (v.gruppo >= 0) {
+        if (v.gruppo != kNessuno) {
             gruppi_[size_t(v.gruppo)].finale = true;
             continue;
         }
-        const int posto = v.tipo == kLinkOpen ? -1 : posto_[size_t(v.condizione)];
-        if (posto < 0) continue;
+        const int posto = v.tipo == kLinkOpen ? kNessuno : posto_[size_t(v.condizione)];
+        if (posto == kNessuno) continue;
         if (!inQuadro[size_t(posto)]) {
             foglieSole_.push_back(posto);
             continue;

@@ -49,7 +49,7 @@ public:
         // the one that most often leaves no candidate first.
         std::vector<int> ordine, ordineRiga;  // all of them; those a row cannot judge once
         std::vector<uint32_t> scarti, scartiRiga;  // blocks each one ended, since the last reordering
-        uint32_t blocchi = 0;
+        uint32_t blocchi{};
         std::vector<uint32_t> righeBlocco;  // the row keys of the current row
         // The blocks of the current row still alive: y and candidates; the
         // masks of one condition over them.

@@ -35,14 +35,14 @@ namespace combi {
 struct ParametriStorico {
     GiocoArchivio gioco = GiocoArchivio::kLotto;
     std::optional<int> ruota;              // Lotto only: one wheel 0..10; none for every wheel
-    DataEstrazione dal = 0;                // first date checked
+    DataEstrazione dal{};                  // first date checked
     DataEstrazione al = 99991231;          // last date checked
     int puntiMinimi = 1;                   // 1..20: a draw "has hits" when a column scores this many
-    int classe = 0;                        // rows of the totals: at least this class (0: the columns')
-    int thread = 0;                        // 0: one per core
+    int classe{};                          // rows of the totals: at least this class (0: the columns')
+    int thread{};                          // 0: one per core
     // Draws per group handed to a thread; 0: about 64 million column checks
     // (tests use small groups to share a few draws among threads).
-    size_t estrazioniPerGruppo = 0;
+    size_t estrazioniPerGruppo{};
 };
 
 // Progress, message pumping and Stop, all called on the calling thread, after
@@ -68,19 +68,19 @@ struct EsitoEstrazione {
 };
 
 struct Digiuno {
-    int64_t concorsi = 0;        // dates in a row without a hit
-    DataEstrazione dal = 0, al = 0;  // its first and last date; 0 when there is none
+    int64_t concorsi{};          // dates in a row without a hit
+    DataEstrazione dal{}, al{};      // its first and last date; 0 when there is none
 };
 
 struct EsitoStorico {
-    int classe = 0;                           // the rows of the totals run from min(classe, drawn numbers)
+    int classe{};                             // the rows of the totals run from min(classe, drawn numbers)
     int puntiMinimi = 1;                      // ... down to this
     std::vector<EsitoEstrazione> estrazioni;  // every draw checked, by date then wheel
     ContePunti totali{};
-    int64_t estrazioniConVincite = 0;
+    int64_t estrazioniConVincite{};
     std::optional<size_t> migliore;           // index in `estrazioni`
     Digiuno digiuno;
-    size_t daControllare = 0;                 // draws in the range
+    size_t daControllare{};                   // draws in the range
     bool interrotto = false;                  // a Stop cut the draws short: `estrazioni` is a prefix
     // "Vincite con p punti " and the total, from the top row down to the minimum.
     std::vector<RigaRiepilogo> Riepilogo() const;

@@ -48,7 +48,7 @@ void PerOgniNumero(const Maschera& m, F&& f) {
 // The visit marks of one walker: a column is met once per round.
 struct Timbri {
     std::vector<uint32_t> segno;
-    uint32_t giro = 0;
+    uint32_t giro{};
 };
 
 class Vicinato {
