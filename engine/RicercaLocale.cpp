@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <tuple>
 
 #include "SceltaACaso.h"
@@ -114,7 +115,7 @@ uint32_t RicercaLocale::Sostituta(uint32_t u, uint32_t tolta) {
 
 uint32_t RicercaLocale::SostitutaVicina(uint32_t u, uint32_t tolta) {
     candidate_.clear();
-    int vicinanza = -1;
+    int vicinanza = std::numeric_limits<int>::min();  // below any count of common numbers
     v_.PerVicini(u, timbri_, [&](uint32_t c) {
         const int comuni = v_.Comuni(c, tolta);
         if (comuni > vicinanza) vicinanza = comuni, candidate_.clear();
@@ -168,20 +169,6 @@ uint32_t RicercaLocale::MigliorSostituta(uint32_t u, uint32_t tolta, int64_t& va
     return scelta.Scelta();
 }
 
-bool RicercaLocale::Accetta(int64_t variazione) {
-    if (variazione <= 0) return true;
-    if (peggioramentiMisurati_ < kCampioniTaratura) {
-        // Measuring: every worsening change is taken; the temperature then
-        // makes the average one taken half the time.
-        sommaPeggioramenti_ += double(variazione);
-        if (++peggioramentiMisurati_ == kCampioniTaratura)
-            temperatura_ = temperaturaIniziale_ = sommaPeggioramenti_ / kCampioniTaratura / std::log(2.0);
-        return true;
-    }
-    const double caso = double(Caso() >> 11) * 0x1.0p-53;
-    return caso < std::exp(-double(variazione) / temperatura_);
-}
-
 // Geometric cooling by stages. When the best cost at this size has not moved
 // for kStadiSenzaProgresso stages the search starts the size again from the
 // best covering set, less another column, at a fraction of the starting
@@ -190,9 +177,9 @@ void RicercaLocale::Raffredda() {
     if (scoperte_.size() < minimoScoperte_) minimoScoperte_ = scoperte_.size(), stadiSenzaProgresso_ = 0;
     if (++passoNelloStadio_ < passiStadio_) return;
     passoNelloStadio_ = 0;
-    temperatura_ *= kRaffreddamento;
+    temperatura_.Raffredda();
     if (++stadiSenzaProgresso_ >= kStadiSenzaProgresso) {
-        temperatura_ = temperaturaIniziale_ * kRiscaldamento;
+        temperatura_.Riscalda();
         Ricomincia();
         stadiSenzaProgresso_ = 0;
         minimoScoperte_ = scoperte_.size();
@@ -230,10 +217,10 @@ bool RicercaLocale::Passo() {
     }
     const uint32_t u = scoperte_[Caso() % scoperte_.size()];
     const uint32_t tolta = PiuVicinaTenuta(u);
-    int64_t variazione = 0;
+    int64_t variazione{};
     const uint32_t aggiunta = pesata_ ? MigliorSostituta(u, tolta, variazione) : Sostituta(u, tolta);
     if (!pesata_) variazione = Variazione(tolta, aggiunta);
-    if (Accetta(variazione)) {
+    if (temperatura_.Accetta(variazione, caso_)) {
         const int64_t prima = Costo();
         Togli(tolta);
         Aggiungi(aggiunta);

@@ -38,6 +38,7 @@
 #include "Colonna.h"
 #include "GeneratoreCasuale.h"
 #include "InsiemeIndicizzato.h"
+#include "Temperatura.h"
 #include "Vicinato.h"
 
 namespace combi::riduzione {
@@ -87,18 +88,14 @@ private:
     int64_t Variazione(uint32_t tolta, uint32_t aggiunta);
     int64_t Costo() const;
     uint64_t Caso() { return caso_(); }
-    bool Accetta(int64_t variazione);
     void Raffredda();
     void Ricomincia();
 
-    static constexpr uint32_t kCampioniTaratura = 200;   // worsening changes measured for the starting temperature
-    static constexpr double kRaffreddamento = 0.99;      // per stage
     // A stage is this many steps per kept number: long enough to try each kept
     // column's changes a few times, short enough that a set of hundreds of
     // columns cools within seconds rather than the whole budget.
     static constexpr uint64_t kPassiPerNumero = 3;
     static constexpr uint32_t kStadiSenzaProgresso = 100; // stages without a better cost before the restart
-    static constexpr double kRiscaldamento = 0.3;        // the restart's temperature, a fraction of the first
     static constexpr size_t kRicambi = 4;                // the restart drops one of this many least useful columns
     static constexpr int kProveSostituta = 4;            // one-number changes tried before walking u's coverers
 
@@ -115,16 +112,12 @@ private:
     std::vector<int64_t> peso_;
     std::vector<uint32_t> soloDaTolta_;
 
-    // Annealing: the starting temperature is measured on the first worsening
-    // changes (all taken meanwhile); a stage is passiStadio_ steps.
-    double temperatura_ = 0;
-    double temperaturaIniziale_ = 0;
-    double sommaPeggioramenti_ = 0;
-    uint32_t peggioramentiMisurati_ = 0;
+    // Annealing (Temperatura.h); a stage is passiStadio_ steps.
+    Temperatura temperatura_;
     uint64_t passiStadio_ = 1000;
-    uint64_t passoNelloStadio_ = 0;
-    uint32_t stadiSenzaProgresso_ = 0;
-    uint64_t stimeSbagliate_ = 0;           // taken changes whose cost was misjudged
+    uint64_t passoNelloStadio_{};
+    uint32_t stadiSenzaProgresso_{};
+    uint64_t stimeSbagliate_{};             // taken changes whose cost was misjudged
     size_t minimoScoperte_ = SIZE_MAX;      // the best cost at the current size
 
     std::vector<uint32_t> migliore_;

@@ -8,8 +8,6 @@ RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, u
                          uint64_t massimeVicine)
     : vicinato_(std::move(vicinato)),
       v_(*vicinato_),
-      tenute_(0),
-      scoperte_(0),
       caso_(seme) {
     valida_ = CostruisciOrbite(ordine, massimeVicine);
     if (!valida_) return;
@@ -144,10 +142,11 @@ void RicercaPesi::Togli(uint32_t c) {
 }
 
 // The kept orbit of highest score, not the one just added; ties to the oldest.
+// The search ends at two kept orbits, so another one is always there.
 uint32_t RicercaPesi::DaTogliere() const {
     uint32_t scelta = UINT32_MAX;
     for (uint32_t k : tenute_) {
-        if (k == ultimaAggiunta_ && tenute_.size() > 1) continue;
+        if (k == ultimaAggiunta_) continue;
         if (scelta == UINT32_MAX || punteggio_[k] > punteggio_[scelta] ||
             (punteggio_[k] == punteggio_[scelta] && ultimoCambio_[k] < ultimoCambio_[scelta]))
             scelta = k;

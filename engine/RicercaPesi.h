@@ -75,7 +75,7 @@ private:
     // the orbits it covers vicine_[inizioVicine_[o]..[o+1]); piena_: a whole orbit of `ordine` columns.
     bool valida_ = true;
     bool finita_ = false;
-    uint32_t unita_ = 0;
+    uint32_t unita_{};
     std::vector<uint64_t> inizioOrbita_, inizioVicine_;
     std::vector<uint32_t> colonneOrbita_, vicine_;
     std::vector<uint8_t> piena_;
@@ -89,7 +89,7 @@ private:
     InsiemeIndicizzato tenute_;
     InsiemeIndicizzato scoperte_;
     uint32_t ultimaAggiunta_ = UINT32_MAX;
-    uint64_t passo_ = 0;
+    uint64_t passo_{};
     std::vector<uint32_t> migliore_;
     GeneratoreCasuale caso_;
 };

@@ -64,7 +64,6 @@ void Esegui(Lavoro& lavoro, uint64_t passiMassimi, Orologio::time_point inizio, 
             lavoro.passi.store(passo, std::memory_order_relaxed);
             if (fermo.load(std::memory_order_relaxed) || Orologio::now() >= fine) break;
         }
-        if (ricerca.Migliore().size() <= 1) break;
         if (ricerca.Passo()) {
             lavoro.secondi.store(std::chrono::duration<double>(Orologio::now() - inizio).count());
             lavoro.migliore.store(ricerca.Migliore().size());
@@ -89,6 +88,8 @@ RisultatoRiduzione RiduciColonneOttimizzate(const std::vector<Colonna>& colonne,
     const auto inizio = Orologio::now();
     const auto trascorsi = [&] { return std::chrono::duration<double>(Orologio::now() - inizio).count(); };
     RisultatoRiduzione avido = RiduciColonne(colonne, puntiRichiesti, oss);
+    // One column left is the least there can be: the greedy reduction finds
+    // it whenever it exists, since a column covering all has the top count.
     if (avido.interrotto || avido.colonne.size() <= 1) return avido;
     const int classe = ClasseColonne(colonne);
 

@@ -36,7 +36,7 @@ namespace {
 
 // Entry k ("N - k") asks for N - k shared numbers, N being the file's class.
 constexpr int kVociRiduzione = 3;
-constexpr int kSecondiMinimi = 1, kSecondiMassimi = 3600, kSecondiPredefiniti = 60;
+constexpr int kSecondiMinimi = 1, kSecondiMassimi = 3600;
 constexpr int kTaccheAsse = 5;
 
 // What a reduction reports, on the window. Guarded pointer: the window may
@@ -165,7 +165,7 @@ void F_Riduzione::CreaOttimizzazione(QVBoxLayout* colonna) {
     txtSecondi_ = new QSpinBox(this);
     txtSecondi_->setObjectName("TxtSecondi");
     txtSecondi_->setRange(kSecondiMinimi, kSecondiMassimi);
-    txtSecondi_->setValue(kSecondiPredefiniti);
+    txtSecondi_->setValue(int(combi::OpzioniOttimizzazione{}.secondi));  // the engine's default budget
     txtSecondi_->setSuffix(" s");
     riga->addWidget(txtSecondi_);
     riga->addStretch(1);

@@ -32,6 +32,7 @@
 #include "RicercaPesi.h"
 #include "RiduzioneOttimizzata.h"
 #include "SceltaACaso.h"
+#include "Temperatura.h"
 #include "Vicinato.h"
 
 namespace combi {
@@ -209,6 +210,38 @@ TEST(RiduzioneOttimizzata, TiesAreBrokenEvenly) {
     }
     EXPECT_EQ(volte[0] + volte[2], 0);
     for (int c : {1, 3, 4, 5}) EXPECT_NEAR(volte[size_t(c)], 10000, 600) << c;
+}
+
+// The annealing's temperature, worked by hand: 100 worsening changes of 1 and
+// 100 of 3 average 2, so T = 2 / ln 2 and a change of 2 is taken with
+// probability 1/2; one stage cooler, 2^(-1/0.99) = 0.49651; warmed again for
+// a restart, a change of 1 has 2^(-1/0.6) = 0.31498. A draw is spent only
+// where it decides.
+TEST(RiduzioneOttimizzata, TheTemperatureIsMeasuredThenCools) {
+    riduzione::Temperatura t;
+    int estratti = 0;
+    const auto Prendi = [&](int64_t variazione, double frazione) {
+        return t.Accetta(variazione, [&] { return ++estratti, uint64_t(frazione * 0x1.0p64); });
+    };
+    EXPECT_TRUE(Prendi(0, 0.99) && Prendi(-4, 0.99));
+    for (int i = 0; i < 200; ++i) {
+        EXPECT_TRUE(t.Taratura());
+        EXPECT_TRUE(Prendi(i % 2 ? 3 : 1, 0.99));
+    }
+    EXPECT_EQ(estratti, 0);
+    EXPECT_FALSE(t.Taratura());
+    EXPECT_NEAR(t.Valore(), 2.885390, 1e-6);
+    EXPECT_TRUE(Prendi(2, 0.499));
+    EXPECT_FALSE(Prendi(2, 0.501));
+    EXPECT_EQ(estratti, 2);
+    t.Raffredda();
+    EXPECT_TRUE(Prendi(2, 0.4960));
+    EXPECT_FALSE(Prendi(2, 0.4970));
+    t.Riscalda();
+    EXPECT_TRUE(Prendi(1, 0.3145));
+    EXPECT_FALSE(Prendi(1, 0.3155));
+    EXPECT_TRUE(Prendi(0, 0.99));
+    EXPECT_EQ(estratti, 6);
 }
 
 // The search over the orbits of a rotation of 1..n by n / ordine places: each
