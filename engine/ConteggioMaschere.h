@@ -3,6 +3,7 @@
 // bit b of every candidate's count, so adding a mask and testing a count
 // cost a few word operations whatever the number of candidates.
 
+#include <algorithm>
 #include <array>
 
 #include "Maschera.h"
@@ -71,8 +72,8 @@ inline Maschera128 ConteggioInInsieme(const Maschera128* m, size_t n, uint64_t v
 
 // The values da..a (clamped to 0..63) as the bits of ConteggioInInsieme.
 inline uint64_t ValoriTra(int64_t da, int64_t a) {
-    if (da < 0) da = 0;
-    if (a > 63) a = 63;
+    da = std::max<int64_t>(da, 0);
+    a = std::min<int64_t>(a, 63);
     if (da > a) return 0;
     const uint64_t finoA = a == 63 ? ~uint64_t{0} : (uint64_t{1} << (a + 1)) - 1;
     return finoA & ~((uint64_t{1} << da) - 1);

@@ -29,26 +29,26 @@ bool SpazioEsaurito(int errore) { return errore == ENOSPC || errore == EFBIG || 
 }  // namespace
 
 FileProvvisorio::FileProvvisorio(std::string destinazione) : destinazione_(std::move(destinazione)) {
-    for (int tentativo = 0; tentativo < 100 && fd_ < 0; ++tentativo) {
+    for (int tentativo = 0; tentativo < 100 && !Aperto(); ++tentativo) {
         temporaneo_ = NomeUnico(destinazione_);
         // 0666 and no fchmod afterwards: the umask decides, as for any new file.
         fd_ = ::open(temporaneo_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (fd_ < 0 && errno != EEXIST) break;
+        if (!Aperto() && errno != EEXIST) break;
     }
-    if (fd_ < 0)
+    if (!Aperto())
         throw Errore(kErroreAccessoFile,
                      "Impossibile creare il file: " + destinazione_ + " (" + std::strerror(errno) + ")");
 }
 
 FileProvvisorio::~FileProvvisorio() {
-    if (fd_ < 0) return;
+    if (!Aperto()) return;
     ::close(fd_);
     std::remove(temporaneo_.c_str());
 }
 
 void FileProvvisorio::Fallisci(int errore, const char* operazione) {
-    if (fd_ >= 0) ::close(fd_);
-    fd_ = -1;
+    if (Aperto()) ::close(fd_);
+    fd_ = kChiuso;
     std::remove(temporaneo_.c_str());
     if (SpazioEsaurito(errore))
         throw Errore(kErroreDiscoPieno, "Spazio su disco esaurito: impossibile scrivere il file " + destinazione_ +
@@ -70,7 +70,7 @@ void FileProvvisorio::Scrivi(const uint8_t* dati, size_t lunghezza) {
 void FileProvvisorio::Concludi() {
     if (::fsync(fd_) != 0) Fallisci(errno, "scrivere");
     const int chiuso = ::close(fd_);
-    fd_ = -1;
+    fd_ = kChiuso;
     if (chiuso != 0) Fallisci(errno, "scrivere");
     if (std::rename(temporaneo_.c_str(), destinazione_.c_str()) != 0) Fallisci(errno, "scrivere");
 }

@@ -30,11 +30,13 @@ public:
     const std::string& Percorso() const { return temporaneo_; }
 
 private:
+    static constexpr int kChiuso = -1;  // what open() gives on failure
+    bool Aperto() const { return fd_ != kChiuso; }
     [[noreturn]] void Fallisci(int errore, const char* operazione);
 
     std::string destinazione_;
     std::string temporaneo_;
-    int fd_ = -1;
+    int fd_ = kChiuso;
 };
 
 }  // namespace combi

@@ -1,5 +1,6 @@
 #include "LetturaNumero.h"
 
+#include <algorithm>
 #include <cmath>
 #include <charconv>
 #include <limits>
@@ -16,9 +17,10 @@ template <typename T>
 T Arrotonda(double valore) {
     if (std::isnan(valore)) return 0;
     const double r = std::nearbyint(valore);  // default rounding mode: half to even
-    if (r <= static_cast<double>(std::numeric_limits<T>::min())) return std::numeric_limits<T>::min();
-    if (r >= static_cast<double>(std::numeric_limits<T>::max())) return std::numeric_limits<T>::max();
-    return static_cast<T>(r);
+    // Both ends are exact doubles for the 16- and 32-bit types read here.
+    static_assert(sizeof(T) <= 4);
+    return static_cast<T>(std::clamp(r, static_cast<double>(std::numeric_limits<T>::min()),
+                                     static_cast<double>(std::numeric_limits<T>::max())));
 }
 
 }  // namespace

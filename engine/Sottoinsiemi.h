@@ -26,7 +26,8 @@ struct Binomiali {
 };
 inline constexpr Binomiali kBinomiali;
 
-inline uint64_t C(int n, int k) { return k < 0 || k > kMassimoK || n < 0 || n < k ? 0 : kBinomiali.c[n][k]; }
+// 0 outside 0 <= k <= n (a negative n included, since k is not negative then).
+inline uint64_t C(int n, int k) { return k < 0 || k > kMassimoK || n < k ? 0 : kBinomiali.c[n][k]; }
 
 // Calls f(rank) for every k-subset of the `quanti` ascending numbers 0..89 in
 // `a` (k 1..10), in lexicographic order of positions.

@@ -118,10 +118,16 @@ int NumeroErrore(const std::function<void()>& f) {
     return 0;
 }
 
+// The open descriptors of this process: a failed write closes its own.
+size_t DescrittoriAperti() {
+    return size_t(std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator{}));
+}
+
 TEST_F(ScritturaColonneTest, AFullDiskSaysSoAndLosesNothing) {
     const std::string percorso = Percorso("c.col");
     ScriviFileColonne(percorso, {Col({7, 8})});
     const std::vector<Colonna> molte = Numerate(200'000);  // 4 MB
+    const size_t aperti = DescrittoriAperti();
     {
         LimiteDimensione limite(1'000'000);
         EXPECT_EQ(NumeroErrore([&] {
@@ -132,8 +138,13 @@ TEST_F(ScritturaColonneTest, AFullDiskSaysSoAndLosesNothing) {
                   kErroreDiscoPieno);
         EXPECT_EQ(NumeroErrore([&] { ScriviFileColonne(percorso, molte); }), kErroreDiscoPieno);
     }
+    {
+        ScritturaColonne abbandonata(percorso);  // never concluded, as a stopped save
+        abbandonata.Accoda(std::vector<Colonna>{Col({1, 2})});
+    }
     EXPECT_EQ(LeggiFileColonne(percorso), std::vector<Colonna>{Col({7, 8})});
     EXPECT_EQ(FileNellaCartella(), 1u);
+    EXPECT_EQ(DescrittoriAperti(), aperti);
 }
 
 // Below the threshold in memory, past it in a mapped file: the same columns
