@@ -13,26 +13,31 @@
 
 namespace combi {
 
+namespace {
+
+// A file in `cartella` that has no name: the open descriptor keeps it alive
+// until it is closed, and a crash leaves nothing behind.
+int CreaSenzaNome(const std::string& cartella) {
+    std::string modello = cartella + "CombiFiltroColonne.XXXXXX";
+    const int fd = ::mkstemp(modello.data());
+    if (fd == -1)
+        throw Errore(kErroreAccessoFile, "Impossibile creare il file temporaneo delle colonne in " + cartella + " (" +
+                                             std::strerror(errno) + ")");
+    std::remove(modello.c_str());
+    return fd;
+}
+
+}  // namespace
+
 // The temporary file: written by appending, read through a read-only mapping
 // of its current length, remapped only when it has grown since.
 struct ColonneSviluppate::FileMappato {
-    std::string percorso;
-    int fd = -1;
+    const int fd;
     uint64_t lunghezza = 0;        // bytes written
     mutable void* mappa = nullptr;
     mutable uint64_t mappata = 0;  // bytes the mapping covers
 
-    explicit FileMappato(const std::string& cartella) {
-        std::string modello = cartella + "CombiFiltroColonne.XXXXXX";
-        fd = ::mkstemp(modello.data());
-        if (fd < 0)
-            throw Errore(kErroreAccessoFile, "Impossibile creare il file temporaneo delle colonne in " + cartella +
-                                                 " (" + std::strerror(errno) + ")");
-        percorso = modello;
-        // Nobody else needs the name: the open descriptor keeps the file
-        // alive until it is closed, and a crash leaves nothing behind.
-        std::remove(percorso.c_str());
-    }
+    explicit FileMappato(const std::string& cartella) : fd(CreaSenzaNome(cartella)) {}
     ~FileMappato() {
         Smappa();
         ::close(fd);

@@ -175,6 +175,19 @@ TEST_F(ScritturaColonneTest, DevelopedColumnsMoveToAFilePastTheThreshold) {
     c.Svuota();
     EXPECT_EQ(c.Quante(), 0u);
     EXPECT_TRUE(c.Colonne().empty());
+
+    // A folder that is not there: refused with its name when the file is needed.
+    const std::string manca = cartella_.string() + "/manca/";
+    ColonneSviluppate senza(10, manca);
+    senza.Accoda(std::span(colonne).first(10));
+    try {
+        senza.Accoda(std::span(colonne).first(1));
+        ADD_FAILURE() << "a file in a missing folder";
+    } catch (const Errore& e) {
+        EXPECT_EQ(e.numero(), kErroreAccessoFile);
+        EXPECT_EQ(std::string(e.what()).rfind("Impossibile creare il file temporaneo delle colonne in " + manca + " (", 0), 0u);
+    }
+    EXPECT_EQ(senza.Quante(), 10u);
 }
 
 }  // namespace
