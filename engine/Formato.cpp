@@ -5,14 +5,10 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
-#include <locale>
 #include <optional>
-#include <stdexcept>
 
-#if __has_include(<langinfo.h>)
 #include <langinfo.h>
 #include <locale.h>
-#endif
 
 #include "Errore.h"
 #include "LetturaNumero.h"
@@ -88,21 +84,11 @@ bool LocaleClassico(std::string_view nome) {
 
 // The separators a named locale writes; nullopt when this machine lacks it.
 std::optional<SeparatoriNumeri> SeparatoriDelLocale(const std::string& nome) {
-#if __has_include(<langinfo.h>)
     locale_t locale = newlocale(LC_NUMERIC_MASK, nome.c_str(), locale_t(0));
     if (locale == locale_t(0)) return std::nullopt;
     SeparatoriNumeri s{nl_langinfo_l(THOUSEP, locale), nl_langinfo_l(RADIXCHAR, locale)};
     freelocale(locale);
     return s;
-#else
-    try {
-        const auto& punteggiatura = std::use_facet<std::numpunct<char>>(std::locale(nome));
-        return SeparatoriNumeri{std::string(1, punteggiatura.thousands_sep()),
-                                std::string(1, punteggiatura.decimal_point())};
-    } catch (const std::runtime_error&) {
-        return std::nullopt;
-    }
-#endif
 }
 
 }  // namespace

@@ -240,6 +240,13 @@ TEST_F(CliTest, InfoDescribesSystemsAndColumns) {
     ScriviFileColonne(P("due.col"), {test::Col({1, 2, 3, 4, 5}), test::Col({6, 7, 8, 9, 10, 90})});
     ASSERT_EQ(Esegui({"info", P("due.col")}), 0);
     EXPECT_EQ(out_.str(), "Colonne : 2\n  1: 01 02 03 04 05\n  2: 06 07 08 09 10 90\n");
+    // Of a longer file only the first ten columns are shown.
+    std::vector<Colonna> undici;
+    for (int i = 1; i <= 11; ++i) undici.push_back(test::Col({i, 79 + i}));
+    ScriviFileColonne(P("undici.col"), undici);
+    ASSERT_EQ(Esegui({"info", P("undici.col")}), 0);
+    EXPECT_EQ(out_.str(), "Colonne : 11\n  1: 01 80\n  2: 02 81\n  3: 03 82\n  4: 04 83\n  5: 05 84\n"
+                          "  6: 06 85\n  7: 07 86\n  8: 08 87\n  9: 09 88\n  10: 10 89\n");
 }
 
 }  // namespace

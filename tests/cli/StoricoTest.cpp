@@ -34,6 +34,8 @@ TEST_F(StoricoTest, TotalsEqualTheWinningsCheckRunDrawByDraw) {
         {{"--gioco", "Lotto"}, 0, kRuoteLotto - 1, 0, 99991231, 2, 5},
         {{"--gioco", "Lotto", "--ruota", "Napoli", "--dal", "01/01/2022", "--al", "2022-12-31", "--minimo", "1"},
          5, 5, 20220101, 20221231, 1, 5},
+        {{"--gioco", "Lotto", "--dal", "2022-03-01", "--al", "01/03/2022", "--minimo", "1"},
+         0, kRuoteLotto - 1, 20220301, 20220301, 1, 5},  // one day
         {{"--gioco", "10ELotto"}, kRuotaDieciELotto, kRuotaDieciELotto, 0, 99991231, 3, 6},
         {{"--gioco", "superenalotto", "--al", "2022-06-30"}, kRuotaSuperEnalotto, kRuotaSuperEnalotto, 0, 20220630, 3, 6},
     };

@@ -103,6 +103,15 @@ TEST(VerificaColonna, LinkGroupsCountPassedMembersInnerFirst) {
     // Interruzioni (0) passes on its own.
     EXPECT_EQ(VerificaColonna(5, Col({1, 3, 5, 7, 9}), t.condizioni, t.quadri), kVero);
     EXPECT_EQ(VerificaColonna(5, Col({1, 2, 3, 4, 6}), t.condizioni, t.quadri), kFalso);
+    // The counts a LinkClose can list stop at 90: a group of 90 passed members
+    // may pass, one of 91 never does.
+    for (int membri : {90, 91}) {
+        std::vector<TestiCondizione> gruppo{{"", "LinkOpen", "", "", "", ""}};
+        gruppo.insert(gruppo.end(), size_t(membri), {"", "Consecutivi", "", "0", "", ""});
+        gruppo.push_back({"", "LinkClose", "", "90", "", ""});
+        t = Leggi(gruppo);
+        EXPECT_EQ(VerificaColonna(5, Col({1, 3, 5, 7, 9}), t.condizioni, t.quadri), membri == 90 ? kVero : kFalso);
+    }
 }
 
 TEST(VerificaColonna, ValuesOutsideThePointListFail) {
