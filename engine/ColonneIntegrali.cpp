@@ -8,9 +8,7 @@
 
 namespace combi {
 
-namespace {
-
-void ControllaLista(const std::vector<int>& numeri) {
+void ControllaNumeri(const std::vector<int>& numeri) {
     bool visto[kMaxNumero + 1] = {};
     for (int n : numeri) {
         if (n < 1 || n > kMaxNumero) throw Errore(kErroreArgomento, "Inserire numeri da 1 a 90, non " + std::to_string(n));
@@ -19,10 +17,8 @@ void ControllaLista(const std::vector<int>& numeri) {
     }
 }
 
-}  // namespace
-
 std::vector<Colonna> ColonneIntegrali(const std::vector<int>& numeri, int classe) {
-    ControllaLista(numeri);
+    ControllaNumeri(numeri);
     const int n = int(numeri.size());
     if (classe < 1 || classe > kMaxClasse || classe > n)
         throw Errore(kErroreArgomento, "La classe deve essere da 1 a " + std::to_string(std::min(n, kMaxClasse)) +

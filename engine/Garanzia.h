@@ -19,6 +19,8 @@ inline constexpr const char* kFaseTabellaGaranzia = "Calcolo garanzia in corso .
 // numbers, a class outside 1..20 or above the count of numbers, or more
 // combinations than a set held in memory.
 std::vector<Colonna> ColonneIntegrali(const std::vector<int>& numeri, int classe);
+// Throws Errore 5 on a number outside 1..90 or repeated.
+void ControllaNumeri(const std::vector<int>& numeri);
 
 // The holes: the columns of daCoprire sharing fewer than `punti` numbers with
 // every kept column, in daCoprire's order. Columns are compared on their

@@ -107,8 +107,7 @@ uint32_t RicercaLocale::Sostituta(uint32_t u, uint32_t tolta) {
     for (int prova = 0; prova < kProveSostituta; ++prova) {
         const uint64_t i = Caso() % d.quanteFuori;
         const uint64_t j = Caso() % d.quanteMancanti;
-        const int64_t c = v_.Cerca(Scambio(a, d, i, j));
-        if (c >= 0) return uint32_t(c);
+        if (const auto c = v_.Cerca(Scambio(a, d, i, j))) return *c;
     }
     return SostitutaVicina(u, tolta);
 }
@@ -142,8 +141,7 @@ void RicercaLocale::CambiVerso(uint32_t u, uint32_t tolta) {
     candidate_.clear();
     for (uint64_t i = 0; i < d.quanteFuori; ++i)
         for (uint64_t j = 0; j < d.quanteMancanti; ++j) {
-            const int64_t c = v_.Cerca(Scambio(a, d, i, j));
-            if (c >= 0) candidate_.push_back(uint32_t(c));
+            if (const auto c = v_.Cerca(Scambio(a, d, i, j))) candidate_.push_back(*c);
         }
     if (candidate_.empty()) SostitutaVicina(u, tolta);  // leaves its choices in candidate_
 }

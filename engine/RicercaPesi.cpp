@@ -59,10 +59,10 @@ bool RicercaPesi::CostruisciOrbite(int ordine, uint64_t massimeVicine) {
         // after at most that many turns, sooner when i is symmetric.
         Maschera x = v_.Numeri(i);
         do {
-            const int64_t j = v_.Cerca(x);
-            if (j < 0) return false;  // the input is not closed under the rotation
-            orbita[size_t(j)] = unita_;
-            colonneOrbita_.push_back(uint32_t(j));
+            const auto j = v_.Cerca(x);
+            if (!j) return false;  // the input is not closed under the rotation
+            orbita[*j] = unita_;
+            colonneOrbita_.push_back(*j);
             x = ruota(x);
         } while (x != v_.Numeri(i));
         inizioOrbita_.push_back(colonneOrbita_.size());

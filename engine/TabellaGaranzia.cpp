@@ -87,7 +87,7 @@ private:
 TabellaGaranzia CalcolaTabellaGaranzia(const std::vector<Colonna>& tenute, const std::vector<int>& numeri,
                                        int estratti, OsservatoreRiduzione& oss) {
     if (estratti < 1) throw Errore(kErroreArgomento, "I numeri estratti devono essere almeno 1");
-    if (!numeri.empty()) (void)ColonneIntegrali(numeri, 1);  // refuses numbers outside 1..90 or repeated
+    ControllaNumeri(numeri);
     const int righe = std::min(estratti, int(numeri.size()));
     riduzione::Controllo controllo(oss);
     controllo.Fase(kFaseTabellaGaranzia);

@@ -54,11 +54,11 @@ void Vicinato::CostruisciTabella() {
     }
 }
 
-int64_t Vicinato::Cerca(const Maschera& m) const {
+std::optional<uint32_t> Vicinato::Cerca(const Maschera& m) const {
     const size_t dimensione = tabella_.size();
     for (size_t p = Hash(m) & (dimensione - 1); tabella_[p] != 0; p = (p + 1) & (dimensione - 1))
-        if (maschere_[tabella_[p] - 1] == m) return int64_t(tabella_[p]) - 1;
-    return -1;
+        if (maschere_[tabella_[p] - 1] == m) return tabella_[p] - 1;
+    return std::nullopt;
 }
 
 }  // namespace combi::riduzione

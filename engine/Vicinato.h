@@ -17,6 +17,7 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "Colonna.h"
@@ -63,8 +64,8 @@ public:
     Maschera NumeriUsati() const;  // every number some column holds
     int Comuni(uint32_t a, uint32_t b) const;
     bool Copre(uint32_t a, uint32_t b) const { return Comuni(a, b) >= punti_; }
-    // The input column holding exactly these numbers, -1 if none.
-    int64_t Cerca(const Maschera& m) const;
+    // The input column holding exactly these numbers, if there is one.
+    std::optional<uint32_t> Cerca(const Maschera& m) const;
 
     // f(j) once for every column j covering column i, i itself included.
     template <typename F>

@@ -336,14 +336,14 @@ TEST(RiduzioneOttimizzata, NeighbourhoodMatchesPairwiseCount) {
                 vicinato.PerVicini(i, timbri, [&](uint32_t j) { trovati.push_back(j); });
                 std::sort(trovati.begin(), trovati.end());
                 ASSERT_EQ(trovati, attesi) << "colonna " << i;
-                const int64_t trovata = vicinato.Cerca(vicinato.Numeri(i));
-                ASSERT_GE(trovata, 0);
-                EXPECT_EQ(test::Comuni(v[size_t(trovata)], v[i], c.classe), c.classe);  // i itself, or one with the same numbers
+                const auto trovata = vicinato.Cerca(vicinato.Numeri(i));
+                ASSERT_TRUE(trovata);
+                EXPECT_EQ(test::Comuni(v[*trovata], v[i], c.classe), c.classe);  // i itself, or one with the same numbers
             }
             // Numbers no column holds: 1..k shifted beyond the pool.
             riduzione::Maschera assente = {0, 0};
             for (int n = 90 - c.classe + 1; n <= 90; ++n) riduzione::Metti(assente, n);
-            EXPECT_EQ(vicinato.Cerca(assente), -1);
+            EXPECT_FALSE(vicinato.Cerca(assente));
         }
     }
     // A column's mask on both sides of 64, one number taken out again.
