@@ -55,16 +55,16 @@ int GiorniDelMese(int anno, int mese) {
     return mese == 2 && Bisestile(anno) ? 29 : kGiorni[mese - 1];
 }
 
-// Three numeric pieces split at `sep`, each of an allowed length.
-std::optional<std::array<int, 3>> TrePezzi(std::string_view testo, char sep, std::array<int, 3> minimo,
-                                           std::array<int, 3> massimo) {
+// Three numeric pieces split at `sep`: the year, piece `anno`, of four
+// digits, the day and the month of one or two.
+std::optional<std::array<int, 3>> TrePezzi(std::string_view testo, char sep, size_t anno) {
     std::array<int, 3> valori{};
     for (size_t p = 0; p < 3; ++p) {
         const size_t fine = p < 2 ? testo.find(sep) : testo.size();
         if (fine == std::string_view::npos) return std::nullopt;
         const std::string_view pezzo = testo.substr(0, fine);
-        const std::optional<int> v = Cifre(pezzo);
-        if (!v || int(pezzo.size()) < minimo[p] || int(pezzo.size()) > massimo[p]) return std::nullopt;
+        const std::optional<int> v = Cifre(pezzo);  // none for an empty piece
+        if (!v || (p == anno ? pezzo.size() != 4 : pezzo.size() > 2)) return std::nullopt;
         valori[p] = *v;
         testo.remove_prefix(p < 2 ? fine + 1 : fine);
     }
@@ -194,9 +194,9 @@ std::optional<GiocoArchivio> GiocoDalNome(std::string_view nome) {
 std::optional<DataEstrazione> LeggiData(std::string_view testo) {
     std::optional<std::array<int, 3>> p;
     int giorno = 0, mese = 0, anno = 0;
-    if ((p = TrePezzi(testo, '/', {1, 1, 4}, {2, 2, 4}))) {
+    if ((p = TrePezzi(testo, '/', 2))) {
         giorno = (*p)[0], mese = (*p)[1], anno = (*p)[2];
-    } else if ((p = TrePezzi(testo, '-', {4, 1, 1}, {4, 2, 2}))) {
+    } else if ((p = TrePezzi(testo, '-', 0))) {
         anno = (*p)[0], mese = (*p)[1], giorno = (*p)[2];
     } else {
         return std::nullopt;

@@ -1,5 +1,4 @@
-// The archive of draws. A draw's default wheel is overwritten by every line
-// read, so its initial value is nothing a user meets.
+// The archive of draws.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -18,7 +17,8 @@ TEST(ArchivioEstrazioni, DatesAreRealCalendarDaysInEitherForm) {
         {"29/02/2024", 20240229}, {"29/02/2023", 0},        {"2000-02-29", 20000229}, {"1900-02-29", 0},
         {"31/04/2024", 0},        {"31/12/2024", 20241231}, {"00/01/2024", 0},        {"01/13/2024", 0},
         {"12/03/24", 0},          {"2024/03/12", 0},        {"12-03-2024", 0},        {"2024-03-12x", 0},
-        {"123/03/2024", 0},       {"", 0},                  {"//", 0},
+        {"123/03/2024", 0},       {"", 0},                  {"//", 0},                {"12/03/02024", 0},
+        {"2024-003-12", 0},       {"2024-03-012", 0},
     };
     for (const Caso& c : casi) EXPECT_EQ(LeggiData(c.testo).value_or(0), c.attesa) << c.testo;
 }
