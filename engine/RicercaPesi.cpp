@@ -147,9 +147,7 @@ uint32_t RicercaPesi::DaTogliere() const {
     uint32_t scelta = UINT32_MAX;
     for (uint32_t k : tenute_) {
         if (k == ultimaAggiunta_) continue;
-        if (scelta == UINT32_MAX || punteggio_[k] > punteggio_[scelta] ||
-            (punteggio_[k] == punteggio_[scelta] && ultimoCambio_[k] < ultimoCambio_[scelta]))
-            scelta = k;
+        if (scelta == UINT32_MAX || Meglio(MeritoDi(k), MeritoDi(scelta))) scelta = k;
     }
     return scelta;
 }
@@ -161,9 +159,7 @@ uint32_t RicercaPesi::DaAggiungere(uint32_t u) {
         if (!piena_[j]) continue;
         if (ripiego == UINT32_MAX || punteggio_[j] > punteggio_[ripiego]) ripiego = j;
         if (!puoEntrare_[j]) continue;
-        if (scelta == UINT32_MAX || punteggio_[j] > punteggio_[scelta] ||
-            (punteggio_[j] == punteggio_[scelta] && ultimoCambio_[j] < ultimoCambio_[scelta]))
-            scelta = j;
+        if (scelta == UINT32_MAX || Meglio(MeritoDi(j), MeritoDi(scelta))) scelta = j;
     }
     return scelta != UINT32_MAX ? scelta : ripiego;
 }

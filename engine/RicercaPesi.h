@@ -33,6 +33,16 @@
 
 namespace combi::riduzione {
 
+// What decides between two orbits a step may take or drop: the higher score,
+// and between equal scores the one left untouched longest.
+struct Merito {
+    int64_t punteggio;
+    uint64_t ultimoCambio;  // the step at which it last entered or left
+};
+inline bool Meglio(Merito a, Merito b) {
+    return a.punteggio > b.punteggio || (a.punteggio == b.punteggio && a.ultimoCambio < b.ultimoCambio);
+}
+
 class RicercaPesi : public Ricerca {
 public:
     // The search over the orbits of a rotation of order `ordine` of the numbers
@@ -64,6 +74,7 @@ private:
     void Registra();
     void Aggiungi(uint32_t c);
     void Togli(uint32_t c);
+    Merito MeritoDi(uint32_t o) const { return {punteggio_[o], ultimoCambio_[o]}; }
     uint32_t DaTogliere() const;
     uint32_t DaAggiungere(uint32_t u);
     void Pesa();

@@ -210,6 +210,11 @@ TEST(RiduzioneOttimizzata, TiesAreBrokenEvenly) {
     }
     EXPECT_EQ(volte[0] + volte[2], 0);
     for (int c : {1, 3, 4, 5}) EXPECT_NEAR(volte[size_t(c)], 10000, 600) << c;
+    // Between two orbits the weighted search takes the higher score, then the
+    // one changed longer ago: {score, step of its last change}.
+    EXPECT_TRUE(riduzione::Meglio({5, 9}, {4, 1}) && riduzione::Meglio({5, 2}, {5, 3}));
+    EXPECT_FALSE(riduzione::Meglio({4, 1}, {5, 9}) || riduzione::Meglio({5, 3}, {5, 2}) ||
+                 riduzione::Meglio({5, 3}, {5, 3}));
 }
 
 // The annealing's temperature, worked by hand: 100 worsening changes of 1 and
