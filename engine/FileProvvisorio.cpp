@@ -18,7 +18,7 @@ namespace {
 // A name no other writer of this or another process is using: the process
 // id, a counter and a random part.
 std::string NomeUnico(const std::string& destinazione) {
-    static std::atomic<unsigned> contatore{0};
+    static std::atomic<unsigned> contatore{};
     static thread_local std::mt19937 caso{std::random_device{}()};
     return destinazione + ".tmp" + std::to_string(::getpid()) + "-" + std::to_string(contatore++) + "-" +
            std::to_string(caso() % 1000000);

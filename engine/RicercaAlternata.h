@@ -25,6 +25,7 @@ public:
 
     bool Passo() override;
     const std::vector<uint32_t>& Migliore() const override { return ricerche_[migliore_]->Migliore(); }
+    size_t Ricerche() const { return ricerche_.size(); }  // the weighted one and one per rotation
 
 private:
     std::vector<std::unique_ptr<Ricerca>> ricerche_;

@@ -305,11 +305,14 @@ TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
     EXPECT_FALSE(riduzione::RicercaPesi(integrali, 3, 7, 312).Valida());
     // The alternating search starts from the best of its orbit searches:
     // 1..12 in class 6 at 3 points is covered by 1-6 and 7-12, one orbit of
-    // the rotation by 6, found before any step.
+    // the rotation by 6, found before any step. It runs one for each order
+    // dividing 12 (2, 3, 4, 6 and 12, the rotation by one place).
     std::vector<uint32_t> tutte(924);
     for (uint32_t i = 0; i < tutte.size(); ++i) tutte[i] = i;
     const auto a3 = std::make_shared<const riduzione::Vicinato>(ColonneIntegrali(DaA(1, 12), 6), 6, 3);
-    EXPECT_EQ(riduzione::RicercaAlternata(a3, tutte, 1).Migliore().size(), 2u);
+    const riduzione::RicercaAlternata alternata(a3, tutte, 1);
+    EXPECT_EQ(alternata.Migliore().size(), 2u);
+    EXPECT_EQ(alternata.Ricerche(), 6u);
     // The numbers in use may straddle 64, where a mask's second word starts:
     // 60..71 in class 6 at 3 points, its halves one orbit of the rotation by 6.
     riduzione::RicercaPesi aCavallo(std::make_shared<const riduzione::Vicinato>(ColonneIntegrali(DaA(60, 71), 6), 6, 3), 2, 1);

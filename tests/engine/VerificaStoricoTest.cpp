@@ -114,6 +114,12 @@ TEST(VerificaStorico, HandWorkedDrawsGiveTheirCountsTheBestDrawAndTheLongestDryR
               (std::vector<RigaRiepilogo>{{"Vincite con 3 punti ", 1}, {"Vincite con 2 punti ", 5}}));
     p.classe = 8;
     EXPECT_EQ(VerificaStorico(kColonne, kArchivio, p, oss).Riepilogo().front().vincita, "Vincite con 5 punti ");
+    // Two draws alike above the minimum: the second, with two columns at 2
+    // points ({1,4,5} and {2,4,6}) against one, is the best.
+    const EsitoStorico due = VerificaStorico(
+        kColonne, {E(20240301, kBari, {4, 5, 60, 61, 62}), E(20240302, kBari, {4, 5, 6, 60, 61})}, p, oss);
+    ASSERT_TRUE(due.migliore.has_value());
+    EXPECT_EQ(due.estrazioni[*due.migliore].estrazione.data, 20240302);
     // An empty columns file, with the group size left to the engine: every
     // draw is checked and none wins.
     const EsitoStorico vuoto = VerificaStorico({}, kArchivio, ParametriStorico{}, oss);
