@@ -238,13 +238,4 @@ int64_t RicercaLocale::Costo() const {
     return peso;
 }
 
-bool RicercaLocale::Coerente() const {
-    for (uint32_t i = 0; i < v_.Quante(); ++i) {
-        uint32_t coprono = 0;
-        for (uint32_t k : tenute_) coprono += v_.Copre(k, i);
-        if (coprono != coperture_[i] || scoperte_.Contiene(i) != (coprono == 0)) return false;
-    }
-    return stimeSbagliate_ == 0;
-}
-
 }  // namespace combi::riduzione

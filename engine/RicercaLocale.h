@@ -66,13 +66,15 @@ public:
     bool Passo() override;
     const std::vector<uint32_t>& Migliore() const override { return migliore_; }
 
-    // The state recounted from the kept columns alone (how many cover each
-    // column, which are uncovered) equals the one the steps keep up to date,
-    // and every change the search took moved its cost (the uncovered count,
-    // or weight) by the amount it was judged by. For the tests: a step's
-    // bookkeeping is where a fault would hide, since a wrong count only makes
-    // the search worse.
-    bool Coerente() const;
+    // The state the steps keep up to date, for the tests to recount from the
+    // kept columns alone: a step's bookkeeping is where a fault would hide,
+    // since a wrong count only makes the search worse.
+    const InsiemeIndicizzato& Tenute() const { return tenute_; }
+    const InsiemeIndicizzato& Scoperte() const { return scoperte_; }
+    const std::vector<uint32_t>& Coperture() const { return coperture_; }  // kept columns covering each
+    // Changes taken that moved the cost (the uncovered count, or weight) by
+    // another amount than they were judged by.
+    uint64_t StimeSbagliate() const { return stimeSbagliate_; }
 
 private:
     void Inizia(const std::vector<uint32_t>& iniziali);

@@ -60,7 +60,8 @@ public:
     // keep up to date: how many kept orbits cover each orbit and which (for
     // the lone ones), the uncovered set, and every score (a kept orbit's
     // loss, the weight only it covers, as a negative; another's gain, the
-    // uncovered weight it would cover). For the tests, as RicercaLocale's.
+    // uncovered weight it would cover). For the tests: a wrong count only
+    // makes the search worse.
     bool Coerente() const;
 
     static constexpr uint64_t kMassimeVicine = 40'000'000;  // 160 MB of orbit lists
