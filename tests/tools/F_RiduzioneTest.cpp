@@ -15,9 +15,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <QToolButton>
 
 #include <algorithm>
+#include <array>
 #include <functional>
 
 #include "../control/Banco.h"
@@ -35,13 +35,7 @@
 namespace {
 
 using combi::Colonna;
-
-using combi::test::Col;
-using combi::test::ColonneCasuali;
-using combi::test::Comuni;
-using combi::test::DaA;
-
-using combi::test::Registro;
+using combi::test::Col, combi::test::ColonneCasuali, combi::test::Comuni, combi::test::DaA, combi::test::Registro;
 
 // What the control must hold after the run: element 0 empty, then the columns
 // left, as the plain all-pairs reduction keeps them (the window runs the
@@ -53,14 +47,10 @@ std::vector<Colonna> Attese(const std::vector<Colonna>& colonne, int punti, int 
     return v;
 }
 
-std::vector<Colonna> Tenute(const CombiFiltroA& c) {
+std::vector<Colonna> Tenute(const CombiFiltroA& c, bool senzaZero = false) {
     std::vector<Colonna> v;
     c.GetColonneSviluppo(v);
-    return v;
-}
-std::vector<Colonna> TenuteSenzaZero(const CombiFiltroA& c) {
-    std::vector<Colonna> v = Tenute(c);
-    if (!v.empty()) v.erase(v.begin());
+    if (senzaZero && !v.empty()) v.erase(v.begin());
     return v;
 }
 
@@ -73,8 +63,6 @@ void ControllaGaranzia(const std::vector<Colonna>& tenute, const std::vector<Col
     EXPECT_TRUE(combi::test::BuchiAForzaBruta(tenute, ingresso, punti, classe).empty()) << "a column is not covered";
 }
 
-// A control with scripted dialogs, a reduction window on it and a folder
-// for the columns files.
 struct BancoRiduzione {
     Banco b;
     QTemporaryDir cartella;
@@ -97,7 +85,7 @@ struct DuranteLaRiduzione : Spia {
           }) {}
 };
 
-TEST(F_Riduzione, OpensWithThreeGuaranteesAndReadsTheChosenFile) {
+TEST(F_Riduzione, OpensWithThreeGuaranteesAndTheSecondsOnlyWhenOttimizzaIsTicked) {
     BancoRiduzione r;
     EXPECT_EQ(r.f.windowTitle(), "Riduzione colonne");
     QComboBox* cmb = r.f.cmbRiduzione();
@@ -109,6 +97,23 @@ TEST(F_Riduzione, OpensWithThreeGuaranteesAndReadsTheChosenFile) {
     EXPECT_EQ(cmb->currentIndex(), 0);
     EXPECT_TRUE(r.f.XPButton1(0)->isEnabled());
 
+    QSpinBox* secondi = r.f.TxtSecondi();
+    EXPECT_EQ(r.f.ChkOttimizza()->text(), "Ottimizza");
+    EXPECT_FALSE(r.f.ChkOttimizza()->isChecked());
+    EXPECT_EQ((std::array{secondi->minimum(), secondi->value(), secondi->maximum()}), (std::array{1, 60, 3600}));
+    for (const bool spunta : {false, true, false}) {  // as it opens, ticked, unticked again
+        r.f.ChkOttimizza()->setChecked(spunta);
+        EXPECT_EQ(secondi->isEnabled(), spunta) << spunta;
+        EXPECT_EQ(r.f.GraficoMigliori()->isVisibleTo(&r.f), spunta) << spunta;
+    }
+}
+
+// Files chosen one after another on one window. A file cut inside a record
+// shows the fraction its length says; a name that vanished before the dialog
+// returned keeps the file chosen before, and so do columns of a class outside
+// 2..10, of mixed classes or with a number twice, with a box that says why.
+TEST(F_Riduzione, ReadsTheChosenFileAndRefusesOneOfAnotherClassOrOfMixedClasses) {
+    BancoRiduzione r;
     // Cancelled: nothing shown. The dialog starts in the systems folder, or
     // in the program's when the control names none that exists.
     r.f.Command1()->click();
@@ -116,39 +121,54 @@ TEST(F_Riduzione, OpensWithThreeGuaranteesAndReadsTheChosenFile) {
     r.f.Command1()->click();
     ASSERT_EQ(r.b.dialoghi.dialoghiFile.size(), 2u);
     const DialogoFile& d = r.b.dialoghi.dialoghiFile[1];
-    EXPECT_EQ(d.titolo, "Apri file");
-    EXPECT_EQ(d.filtro, "File colonne (*.col)|*.col");
-    EXPECT_EQ(d.nome, "*.col");
-    EXPECT_EQ(d.estensione, ".col");
+    EXPECT_EQ((QStringList{d.titolo, d.filtro, d.nome, d.estensione}),
+              (QStringList{"Apri file", "File colonne (*.col)|*.col", "*.col", ".col"}));
     EXPECT_EQ(QDir(r.b.dialoghi.dialoghiFile[0].cartella), QDir(CartellaProgramma()));
     EXPECT_EQ(QDir(d.cartella), QDir(r.cartella.path()));
     EXPECT_TRUE(r.f.labFile()->text().isEmpty());
 
-    const QString file = r.Scrivi("Sette.col", ColonneCasuali(1, 7, 20));
-    r.Scegli(file);
-    EXPECT_EQ(r.f.labFile()->text(), file);
-    EXPECT_EQ(r.f.LabColonne()->text(), "7");
-    EXPECT_EQ(r.f.LabClasse()->text(), "6");
-
-    // A file cut inside a record shows the fraction, as its length says; the
-    // whole records are what is reduced.
-    QFile troncato(r.cartella.filePath("Troncato.col"));
-    ASSERT_TRUE(troncato.open(QIODevice::WriteOnly));
-    QFile intero(file);
-    ASSERT_TRUE(intero.open(QIODevice::ReadOnly));
-    troncato.write(intero.read(50));
-    troncato.close();
-    r.Scegli(troncato.fileName());
-    EXPECT_EQ(r.f.LabColonne()->text(), "2.5");
-
-    // A name that vanished before the dialog returned keeps the previous file.
-    r.Scegli(r.cartella.filePath("Sparito.col"));
-    EXPECT_EQ(r.f.labFile()->text(), troncato.fileName());
-    EXPECT_TRUE(r.b.dialoghi.boxes.empty());
+    const QString sette = r.Scrivi("Sette.col", ColonneCasuali(1, 7, 20)), troncato = r.cartella.filePath("T.col");
+    ASSERT_TRUE(QFile::copy(sette, troncato) && QFile::resize(troncato, 50));
+    const QString buono = r.Scrivi("Buono.col", ColonneCasuali(3, 5, 30, 4));
+    std::vector<Colonna> misto = ColonneCasuali(3, 4, 30, 6);
+    misto[2][6] = 0;  // a class-5 column among class-6 ones
+    std::vector<Colonna> doppione = ColonneCasuali(3, 4, 30);
+    doppione[2][4] = doppione[2][3];
+    // Each file, why it is refused (empty: taken), and the file, count and class shown after it.
+    struct Caso { const char* nome; QString file, motivo, mostrato, colonne; int classe; };
+    const QString fuori = "la classe delle colonne deve essere da 2 a 10: la colonna 1 ha ";
+    const Caso casi[] = {
+        {"sette", sette, "", sette, "7", 6},
+        {"troncato", troncato, "", troncato, "2.5", 6},
+        {"sparito", r.cartella.filePath("Sparito.col"), "", troncato, "2.5", 6},
+        {"classe 4", buono, "", buono, "5", 4},
+        {"classe 11", r.Scrivi("C11.col", ColonneCasuali(4, 3, 40, 11)), fuori + "11 numeri", buono, "5", 4},
+        {"classe 1", r.Scrivi("C1.col", ColonneCasuali(4, 3, 40, 1)), fuori + "1 numeri", buono, "5", 4},
+        {"classi diverse", r.Scrivi("Misto.col", misto), "la colonna 3 non ha", buono, "5", 4},
+        {"numero ripetuto", r.Scrivi("Doppione.col", doppione), "la colonna 3 non ha", buono, "5", 4},
+    };
+    for (const Caso& c : casi) {
+        SCOPED_TRACE(c.nome);
+        r.b.dialoghi.boxes.clear();
+        r.Scegli(c.file);
+        ASSERT_EQ(r.b.dialoghi.boxes.size(), c.motivo.isEmpty() ? 0u : 1u);
+        if (!c.motivo.isEmpty()) {
+            const BoxMostrato& box = r.b.dialoghi.boxes[0];
+            EXPECT_EQ((QStringList{box.tipo, box.titolo}), (QStringList{"esclamazione", "Riduzione colonne"}));
+            EXPECT_TRUE(box.testo.startsWith("Le colonne di questo file non si possono ridurre: " + c.motivo))
+                << box.testo.toStdString();
+            EXPECT_TRUE(box.testo.endsWith("Si riducono file con colonne tutte della stessa classe, da 2 a 10."));
+        }
+        EXPECT_EQ(r.f.labFile()->text(), c.mostrato);
+        EXPECT_EQ(r.f.LabColonne()->text(), c.colonne);
+        EXPECT_EQ(r.f.LabClasse()->text(), QString::number(c.classe));
+        EXPECT_EQ(r.f.Classe(), c.classe);
+    }
 
     // A name that exists but cannot be read as a file: reported, no count.
     const QString cartella = r.cartella.filePath("Cartella.col");
     ASSERT_TRUE(QDir().mkdir(cartella));
+    r.b.dialoghi.boxes.clear();
     r.Scegli(cartella);
     ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
     EXPECT_EQ(r.b.dialoghi.boxes[0].tipo, "critico");
@@ -157,64 +177,15 @@ TEST(F_Riduzione, OpensWithThreeGuaranteesAndReadsTheChosenFile) {
     EXPECT_TRUE(r.f.LabColonne()->text().isEmpty());
 }
 
-TEST(F_Riduzione, KeepsTheEngineColumnsForEachGuarantee) {
-    BancoRiduzione r;
-    const std::vector<Colonna> colonne = ColonneCasuali(7, 400, 14);
-    r.Scegli(r.Scrivi("Quattrocento.col", colonne));
-    r.f.show();
-    size_t precedenti = colonne.size() + 1;
-    for (int indice : {0, 1, 2}) {
-        SCOPED_TRACE(indice);
-        const int punti = 5 - indice;
-        r.b.c.ImpostaColonneSviluppo({});
-        r.f.LabColonneRid()->setText("vecchio");
-        r.Garanzia((indice + 1) % 3);
-        r.Garanzia(indice);
-        EXPECT_TRUE(r.f.LabColonneRid()->text().isEmpty()) << "a new guarantee clears the old result";
-        ASSERT_TRUE(r.f.XPButton1(0)->isEnabled());
-
-        QString fase, ridotte = "non letto";
-        bool abilitati = true;
-        DuranteLaRiduzione durante(r.f, [&] {
-            fase = r.f.LabInfo()->text();
-            ridotte = r.f.LabColonneRid()->text();
-            abilitati = r.f.XPButton1(0)->isEnabled() || r.f.cmbRiduzione()->isEnabled() ||
-                        r.f.Command1()->isEnabled();
-        });
-        r.Avvia();
-
-        const std::vector<Colonna> attese = Attese(colonne, punti);
-        EXPECT_EQ(Tenute(r.b.c), attese);
-        EXPECT_LT(attese.size(), precedenti) << "fewer shared numbers, fewer columns";
-        precedenti = attese.size();
-        EXPECT_EQ(r.f.LabColonneRid()->text(), QString::number(attese.size() - 1));
-        EXPECT_EQ(fase, combi::kFaseAnalisi);
-        EXPECT_TRUE(ridotte.isEmpty());
-        EXPECT_FALSE(abilitati) << "start, guarantee and file locked during the run";
-        EXPECT_EQ(r.f.LabInfo()->text(),
-                  QString("Riduzione terminata: 400 colonne in ingresso, %1 tenute").arg(attese.size() - 1));
-        EXPECT_EQ(r.f.PanPerc()->value(), 100);
-        EXPECT_FALSE(r.f.XPButton1(0)->isEnabled()) << "start waits for another guarantee";
-        EXPECT_TRUE(r.f.cmbRiduzione()->isEnabled());
-        EXPECT_TRUE(r.f.Command1()->isEnabled());
-        EXPECT_TRUE(r.b.c.Pulsante("VisualizzaColonne")->isEnabled());
-        EXPECT_TRUE(r.f.isVisible());
-    }
-    EXPECT_TRUE(r.b.dialoghi.boxes.empty());
-}
-
 // A file of class N reduced with "N - k" keeps what the engine keeps with
-// N - k shared numbers; the result is a cover of the file (checked one
-// column against another) in which no kept column covers another, and on
-// the small files it has the size worked out by hand. The entry chosen
-// before the file falls back to "N - 1" when the class turns it off.
+// N - k shared numbers: a cover of the file (checked one column against
+// another) in which no kept column covers another, smaller for fewer shared
+// numbers, of the size worked out by hand on the small files. The entry chosen
+// before the file falls back to "N - 1" when the class turns it off; the
+// entries run one after another on one window.
 TEST(F_Riduzione, ReducesColumnsOfAnyClassWithNMinusTheEntry) {
-    struct Caso {
-        const char* nome;
-        std::vector<Colonna> colonne;
-        int classe, voce, punti;
-        int tenuteAMano;  // -1: not worked out
-    };
+    struct Voce { int voce, punti, tenuteAMano; };  // tenuteAMano -1: not worked out
+    struct Caso { const char* nome; std::vector<Colonna> colonne; int classe; std::vector<Voce> voci; };
     // Class 3, two shared numbers: {1,2,3}, {1,2,4} and {1,2,5} cover one
     // another, {6,7,8} only itself: two columns.
     const std::vector<Colonna> tre = {Col({1, 2, 3}), Col({1, 2, 4}), Col({1, 2, 5}), Col({6, 7, 8})};
@@ -225,14 +196,14 @@ TEST(F_Riduzione, ReducesColumnsOfAnyClassWithNMinusTheEntry) {
                                          Col({10, 11, 12, 13, 14})};
     const Caso casi[] = {
         // {1,2} and {1,3} share one number: one of them and {4,5}.
-        {"classe 2 a mano, N - 1", {Col({1, 2}), Col({1, 3}), Col({4, 5})}, 2, 0, 1, 2},
-        {"classe 3 a mano, N - 1", tre, 3, 0, 2, 2},
-        {"classe 5 a mano, N - 1", cinque, 5, 0, 4, 3},
-        {"classe 5 a mano, N - 2", cinque, 5, 1, 3, 2},
-        {"classe 5, N - 2", ColonneCasuali(21, 300, 12, 5), 5, 1, 3, -1},
-        {"classe 3, N - 2", ColonneCasuali(24, 200, 10, 3), 3, 1, 1, -1},
-        {"classe 2, N - 1", ColonneCasuali(25, 60, 14, 2), 2, 0, 1, -1},
-        {"classe 10, N - 3", ColonneCasuali(26, 120, 14, 10), 10, 2, 7, -1},
+        {"classe 2 a mano", {Col({1, 2}), Col({1, 3}), Col({4, 5})}, 2, {{0, 1, 2}}},
+        {"classe 3 a mano", tre, 3, {{0, 2, 2}}},
+        {"classe 5 a mano", cinque, 5, {{0, 4, 3}, {1, 3, 2}}},
+        {"classe 6", ColonneCasuali(7, 400, 14), 6, {{0, 5, -1}, {1, 4, -1}, {2, 3, -1}}},
+        {"classe 5", ColonneCasuali(21, 300, 12, 5), 5, {{1, 3, -1}}},
+        {"classe 3", ColonneCasuali(24, 200, 10, 3), 3, {{1, 1, -1}}},
+        {"classe 2", ColonneCasuali(25, 60, 14, 2), 2, {{0, 1, -1}}},
+        {"classe 10", ColonneCasuali(26, 120, 14, 10), 10, {{2, 7, -1}}},
     };
     for (const Caso& c : casi) {
         SCOPED_TRACE(c.nome);
@@ -242,48 +213,55 @@ TEST(F_Riduzione, ReducesColumnsOfAnyClassWithNMinusTheEntry) {
         ASSERT_TRUE(r.b.dialoghi.boxes.empty());
         EXPECT_EQ(r.f.cmbRiduzione()->currentIndex(), c.classe >= 4 ? 2 : 0);
         EXPECT_EQ(r.f.LabClasse()->text(), QString::number(c.classe));
-        // Entries asking for fewer than one shared number are off.
         auto* voci = qobject_cast<QStandardItemModel*>(r.f.cmbRiduzione()->model());
         ASSERT_NE(voci, nullptr);
         for (int k = 1; k <= 3; ++k) EXPECT_EQ(voci->item(k - 1)->isEnabled(), c.classe - k >= 1) << k;
-        r.Garanzia(c.voce == 0 ? 1 : 0);
-        r.Garanzia(c.voce);
-        r.Avvia();
-        ASSERT_TRUE(r.b.dialoghi.boxes.empty()) << r.b.dialoghi.boxes[0].testo.toStdString();
+        r.f.show();
+        size_t precedenti = c.colonne.size();
+        for (const Voce& v : c.voci) {
+            SCOPED_TRACE(v.voce);
+            r.b.c.ImpostaColonneSviluppo({});
+            r.f.LabColonneRid()->setText("vecchio");
+            r.Garanzia((v.voce + 1) % 3), r.Garanzia(v.voce);
+            EXPECT_TRUE(r.f.LabColonneRid()->text().isEmpty()) << "a new guarantee clears the old result";
+            ASSERT_TRUE(r.f.XPButton1(0)->isEnabled());
+            QString fase, ridotte = "non letto";
+            bool abilitati = true;
+            DuranteLaRiduzione durante(r.f, [&] {
+                fase = r.f.LabInfo()->text();
+                ridotte = r.f.LabColonneRid()->text();
+                abilitati = r.f.XPButton1(0)->isEnabled() || r.f.cmbRiduzione()->isEnabled() ||
+                            r.f.Command1()->isEnabled();
+            });
+            r.Avvia();
+            ASSERT_TRUE(r.b.dialoghi.boxes.empty()) << r.b.dialoghi.boxes[0].testo.toStdString();
+            EXPECT_EQ(fase, combi::kFaseAnalisi);
+            EXPECT_TRUE(ridotte.isEmpty());
+            EXPECT_FALSE(abilitati) << "start, guarantee and file locked during the run";
 
-        EXPECT_EQ(Tenute(r.b.c), Attese(c.colonne, c.punti));
-        const std::vector<Colonna> senzaZero = TenuteSenzaZero(r.b.c);
-        ControllaGaranzia(senzaZero, c.colonne, c.punti, c.classe);
-        for (size_t i = 0; i < senzaZero.size(); ++i)
-            for (size_t j = i + 1; j < senzaZero.size(); ++j)
-                EXPECT_LT(Comuni(senzaZero[i], senzaZero[j], c.classe), c.punti) << "kept " << i << " and " << j;
-        if (c.tenuteAMano >= 0) {
-            EXPECT_EQ(int(senzaZero.size()), c.tenuteAMano);
+            const std::vector<Colonna> attese = Attese(c.colonne, v.punti), senzaZero = Tenute(r.b.c, true);
+            EXPECT_EQ(Tenute(r.b.c), attese);
+            ControllaGaranzia(senzaZero, c.colonne, v.punti, c.classe);
+            for (size_t i = 0; i < senzaZero.size(); ++i)
+                for (size_t j = i + 1; j < senzaZero.size(); ++j)
+                    EXPECT_LT(Comuni(senzaZero[i], senzaZero[j], c.classe), v.punti) << "kept " << i << " and " << j;
+            if (v.tenuteAMano >= 0) {
+                EXPECT_EQ(int(senzaZero.size()), v.tenuteAMano);
+            }
+            EXPECT_LT(attese.size() - 1, precedenti) << "fewer shared numbers, fewer columns";
+            precedenti = attese.size() - 1;
+            EXPECT_EQ(r.f.LabColonneRid()->text(), QString::number(attese.size() - 1));
+            EXPECT_EQ(r.f.LabInfo()->text(), QString("Riduzione terminata: %1 colonne in ingresso, %2 tenute")
+                                                 .arg(c.colonne.size())
+                                                 .arg(senzaZero.size()));
+            EXPECT_EQ(r.f.PanPerc()->value(), 100);
+            EXPECT_FALSE(r.f.XPButton1(0)->isEnabled()) << "start waits for another guarantee";
+            EXPECT_TRUE(r.f.cmbRiduzione()->isEnabled());
+            EXPECT_TRUE(r.f.Command1()->isEnabled());
+            EXPECT_TRUE(r.b.c.Pulsante("VisualizzaColonne")->isEnabled());
+            EXPECT_TRUE(r.f.isVisible());
         }
-        EXPECT_LT(senzaZero.size(), c.colonne.size());
-        EXPECT_EQ(r.f.LabInfo()->text(), QString("Riduzione terminata: %1 colonne in ingresso, %2 tenute")
-                                             .arg(c.colonne.size())
-                                             .arg(senzaZero.size()));
-        EXPECT_EQ(r.f.PanPerc()->value(), 100);
     }
-}
-
-TEST(F_Riduzione, OttimizzaTakesTheSecondsOnlyWhenTicked) {
-    BancoRiduzione r;
-    QCheckBox* ottimizza = r.f.ChkOttimizza();
-    QSpinBox* secondi = r.f.TxtSecondi();
-    EXPECT_EQ(ottimizza->text(), "Ottimizza");
-    EXPECT_FALSE(ottimizza->isChecked());
-    EXPECT_EQ(secondi->value(), 60);
-    EXPECT_EQ(secondi->minimum(), 1);
-    EXPECT_EQ(secondi->maximum(), 3600);
-    EXPECT_FALSE(secondi->isEnabled());
-    EXPECT_FALSE(r.f.GraficoMigliori()->isVisibleTo(&r.f));
-    ottimizza->setChecked(true);
-    EXPECT_TRUE(secondi->isEnabled());
-    EXPECT_TRUE(r.f.GraficoMigliori()->isVisibleTo(&r.f));
-    ottimizza->setChecked(false);
-    EXPECT_FALSE(secondi->isEnabled());
 }
 
 // Every column of 1..10 in class 6 (210) with three shared numbers, searched
@@ -318,7 +296,7 @@ TEST(F_Riduzione, OttimizzaKeepsTheGuaranteeWithNoMoreColumnsThanThePlainReducti
 
         ASSERT_EQ(chiesto, ferma);
         EXPECT_EQ(r.b.dialoghi.Testi(), ferma ? QStringList{"Interrompere il processo di riduzione ? "} : QStringList{});
-        const std::vector<Colonna> senzaZero = TenuteSenzaZero(r.b.c);
+        const std::vector<Colonna> senzaZero = Tenute(r.b.c, true);
         ControllaGaranzia(senzaZero, colonne, 3, 6);
         EXPECT_LE(senzaZero.size() + 1, Attese(colonne, 3).size());
         EXPECT_EQ(r.f.LabInfo()->text(), QString("Ottimizzazione %1: %2 colonne in ingresso, %3 tenute")
@@ -330,9 +308,8 @@ TEST(F_Riduzione, OttimizzaKeepsTheGuaranteeWithNoMoreColumnsThanThePlainReducti
         if (ferma) continue;
         EXPECT_EQ(r.f.LabColonneRid()->text(), QString::number(senzaZero.size()));
         EXPECT_EQ(r.f.PanPerc()->value(), 100);
-        const auto migliori = std::find_if(visti.begin(), visti.end(),
-                                           [](const QString& t) { return t.startsWith("Migliore finora: "); });
-        EXPECT_NE(migliori, visti.end()) << visti.join(" | ").toStdString();
+        EXPECT_TRUE(std::ranges::any_of(visti, [](const QString& t) { return t.startsWith("Migliore finora: "); }))
+            << visti.join(" | ").toStdString();
         const QList<QPointF> punti = r.f.SerieMigliori()->points();
         ASSERT_FALSE(punti.isEmpty());
         EXPECT_EQ(punti.last().y(), double(senzaZero.size()));
@@ -382,11 +359,7 @@ TEST(F_Riduzione, ReportsMissingAndEmptyFilesAndKeepsTheColumns) {
     std::vector<Colonna> sviluppate(3);
     sviluppate[1][1] = 1, sviluppate[2][1] = 2;
     r.b.c.ImpostaColonneSviluppo(sviluppate);
-    struct Caso {
-        const char* nome;
-        QString file;
-        QString tipo, testo;
-    };
+    struct Caso { const char* nome; QString file, tipo, testo; };
     const Caso casi[] = {
         {"nessun file scelto", QString(), "critico", "Il file delle colonne non esiste"},
         {"vuoto", r.Scrivi("Vuoto.col", {}), "esclamazione", "Il file delle colonne non contiene colonne"},
@@ -405,47 +378,6 @@ TEST(F_Riduzione, ReportsMissingAndEmptyFilesAndKeepsTheColumns) {
         EXPECT_TRUE(r.f.LabInfo()->text().isEmpty()) << "nothing was reduced";
         EXPECT_FALSE(r.f.Occupato());
         EXPECT_TRUE(r.f.cmbRiduzione()->isEnabled());
-    }
-}
-
-// Columns of a class outside 2..10, or of mixed classes, are refused when the
-// file is chosen, with a box that says why; the file chosen before stays.
-TEST(F_Riduzione, RefusesAFileOfAnotherClassOrOfMixedClassesWhenChosen) {
-    BancoRiduzione r;
-    const QString buono = r.Scrivi("Buono.col", ColonneCasuali(3, 5, 30, 4));
-    r.Scegli(buono);
-    ASSERT_TRUE(r.b.dialoghi.boxes.empty());
-    ASSERT_EQ(r.f.Classe(), 4);
-
-    std::vector<Colonna> misto = ColonneCasuali(3, 4, 30, 6);
-    misto[2][6] = 0;  // a class-5 column among class-6 ones
-    std::vector<Colonna> doppione = ColonneCasuali(3, 4, 30);
-    doppione[2][4] = doppione[2][3];  // a number twice
-    struct Caso {
-        const char* nome;
-        std::vector<Colonna> colonne;
-        const char* motivo;
-    };
-    const Caso casi[] = {
-        {"classe 11", ColonneCasuali(4, 3, 40, 11), "la classe delle colonne deve essere da 2 a 10: la colonna 1 ha 11 numeri"},
-        {"classe 1", ColonneCasuali(4, 3, 40, 1), "la classe delle colonne deve essere da 2 a 10: la colonna 1 ha 1 numeri"},
-        {"classi diverse", misto, "la colonna 3 non ha"},
-        {"numero ripetuto", doppione, "la colonna 3 non ha"},
-    };
-    for (const Caso& c : casi) {
-        SCOPED_TRACE(c.nome);
-        r.b.dialoghi.boxes.clear();
-        r.Scegli(r.Scrivi(QString(c.nome) + ".col", c.colonne));
-        ASSERT_EQ(r.b.dialoghi.boxes.size(), 1u);
-        const BoxMostrato& box = r.b.dialoghi.boxes[0];
-        EXPECT_EQ(box.tipo, "esclamazione");
-        EXPECT_EQ(box.titolo, "Riduzione colonne");
-        EXPECT_TRUE(box.testo.startsWith(QString("Le colonne di questo file non si possono ridurre: ") + c.motivo))
-            << box.testo.toStdString();
-        EXPECT_TRUE(box.testo.endsWith("Si riducono file con colonne tutte della stessa classe, da 2 a 10."));
-        EXPECT_EQ(r.f.labFile()->text(), buono);
-        EXPECT_EQ(r.f.LabColonne()->text(), "5");
-        EXPECT_EQ(r.f.Classe(), 4);
     }
 }
 
