@@ -120,6 +120,8 @@ TEST(Misure, VorticeWalksTheSpiral) {
     // All odd: direct lands on b each time: a=1,b=6 -> j=6 (b=6,a=2) -> j=2 (a=2,b=5)
     // -> j=5 (b=5,a=3) -> j=3 (a=3,b=4) -> j=4 (b=4,a=4) -> j=4 (a=4,b=3): v=4.
     EXPECT_EQ(CalcolaVorticeDiretto(6, Col({1, 3, 5, 7, 9, 11})), 4);
+    // Two odd numbers: a=1,b=2 -> j=2 (b=2,a=2) -> j=2 (a=2,b=1): v=2.
+    EXPECT_EQ(CalcolaVorticeDiretto(2, Col({1, 3})), 2);
 }
 
 TEST(Misure, SequenzeMatchesOverlappingRunsAndReadsLettersByCase) {

@@ -258,12 +258,12 @@ TEST(RiduzioneOttimizzata, TheTemperatureIsMeasuredThenCools) {
 // The search over the orbits of a rotation of 1..n by n / ordine places: each
 // best it reports covers the whole input (pair by pair) and is made of whole
 // orbits (every kept column rotated is kept). An input not closed under the
-// rotation, or an order that does not divide n, is refused.
+// rotation, an order that does not divide n, or order 1 (no rotation) is refused.
 TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
     struct Caso { int n; int classe; int punti; int ordine; bool valida; };
     // At 3 points in class 3 a column covers only itself: every orbit is kept.
     for (const Caso& c : {Caso{12, 6, 4, 3, true}, Caso{12, 6, 3, 6, true}, Caso{10, 5, 3, 2, true},
-                          Caso{7, 3, 3, 7, true}, Caso{12, 6, 4, 5, false}}) {
+                          Caso{7, 3, 3, 7, true}, Caso{12, 6, 4, 5, false}, Caso{12, 6, 4, 1, false}}) {
         const std::vector<Colonna> v = ColonneIntegrali(DaA(1, c.n), c.classe);
         const auto vicinato = std::make_shared<const riduzione::Vicinato>(v, c.classe, c.punti);
         riduzione::RicercaPesi ricerca(vicinato, c.ordine, 7);
