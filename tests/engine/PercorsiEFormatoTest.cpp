@@ -98,16 +98,19 @@ TEST_F(KillFileTest, DeletesFilesAndPatternsQuietly) {
     EXPECT_TRUE(Kill("cartella"));
     EXPECT_TRUE(IsCartella(cartella_ + "cartella"));
     EXPECT_TRUE(Kill(std::string(300, 'n') + ".col"));
-    for (const char* n : {"a.col", "bb.col", "SistCond1.sic", "SistCond12.sic", "SistCond.sic", "nota.txt"})
+    for (const char* n : {"a.col", "bb.col", "SistCond1.sic", "SistCond12.sic", "SistCond.sic", "nota.txt", "xab.txt",
+                          "axb.txt", "vecchio.bak"})
         Crea(n);
     fs::create_directory(cartella_ + "sotto.col");
     EXPECT_TRUE(Kill("*.col"));
     EXPECT_TRUE(Kill("SistCond?.sic"));  // "?" alone is no pattern: a literal, missing name
     EXPECT_TRUE(Kill("SistCond?*.sic"));
     EXPECT_TRUE(Kill("*.nessuno"));
-    for (const char* n : {"a.col", "bb.col", "SistCond1.sic", "SistCond12.sic"})
+    EXPECT_TRUE(Kill("*ab.txt"));  // after a false start on "a", "x" is no "a": axb.txt stays
+    EXPECT_TRUE(Kill("vecchio.bak*"));
+    for (const char* n : {"a.col", "bb.col", "SistCond1.sic", "SistCond12.sic", "xab.txt", "vecchio.bak"})
         EXPECT_FALSE(FileEsiste(cartella_ + n)) << n;
-    for (const char* n : {"SistCond.sic", "nota.txt", "sotto.col"}) EXPECT_TRUE(FileEsiste(cartella_ + n)) << n;
+    for (const char* n : {"SistCond.sic", "nota.txt", "sotto.col", "axb.txt"}) EXPECT_TRUE(FileEsiste(cartella_ + n)) << n;
     EXPECT_TRUE(IsCartella(cartella_ + "sotto.col"));
     EXPECT_FALSE(IsCartella(cartella_ + "nota.txt"));
     EXPECT_TRUE(segnalazioni_.empty());
