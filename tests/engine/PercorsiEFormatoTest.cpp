@@ -110,7 +110,8 @@ TEST_F(KillFileTest, DeletesFilesAndPatternsQuietly) {
     EXPECT_TRUE(Kill("vecchio.bak*"));
     for (const char* n : {"a.col", "bb.col", "SistCond1.sic", "SistCond12.sic", "xab.txt", "vecchio.bak"})
         EXPECT_FALSE(FileEsiste(cartella_ + n)) << n;
-    for (const char* n : {"SistCond.sic", "nota.txt", "sotto.col", "axb.txt"}) EXPECT_TRUE(FileEsiste(cartella_ + n)) << n;
+    for (const char* n : {"SistCond.sic", "nota.txt", "sotto.col", "axb.txt"})
+        EXPECT_TRUE(FileEsiste(cartella_ + n)) << n;
     EXPECT_TRUE(IsCartella(cartella_ + "sotto.col"));
     EXPECT_FALSE(IsCartella(cartella_ + "nota.txt"));
     EXPECT_TRUE(segnalazioni_.empty());
