@@ -118,6 +118,7 @@ TEST(DistribuzioneMisura, StopsWhenAskedAndRefusesWhatCannotBeCounted) {
     EXPECT_THROW(ContaDistribuzione(peso, {3, 2, 5}, 2), Errore);
     EXPECT_THROW(ContaDistribuzione(peso, {0, 2, 5}, 2), Errore);
     EXPECT_THROW(ContaDistribuzione(peso, DaA(1, 30), 21), Errore);
+    EXPECT_THROW(ContaDistribuzione(peso, DaA(1, 30), 0), Errore);
     // Only the first position weighs: the smallest number of each column.
     const Distribuzione primo = *ContaDistribuzione(peso, DaA(1, 6), 2);
     EXPECT_EQ(primo, (Distribuzione{{1, 5}, {2, 4}, {3, 3}, {4, 2}, {5, 1}}));

@@ -125,12 +125,14 @@ TEST_F(FileTest, ColumnsFileToleratesACutTailAndFlagsBadColumns) {
     std::ofstream(Percorso("t.col"), std::ios::binary) << std::string(45, '\x01');
     EXPECT_EQ(GetNumeroColonneInFile(Percorso("t.col")), 2.25);
     EXPECT_EQ(LeggiFileColonne(Percorso("t.col")).size(), 2u);
-    Colonna buona, discendente, oltre;
+    Colonna buona, discendente, oltre, ripetuta;
     buona[1] = 3, buona[2] = 9;
     discendente[1] = 9, discendente[2] = 3;
     oltre[1] = 3, oltre[2] = 91;
+    ripetuta[1] = 9, ripetuta[2] = 9;
     EXPECT_FALSE(PrimaColonnaNonValida({buona, buona}).has_value());
     EXPECT_EQ(PrimaColonnaNonValida({buona, discendente}), 1u);
+    EXPECT_EQ(PrimaColonnaNonValida({buona, buona, ripetuta}), 2u);
     EXPECT_EQ(PrimaColonnaNonValida({oltre}), 0u);
     EXPECT_EQ(PrimaColonnaNonValida({buona}, 3), 0u);  // class 2, not 3
     EXPECT_EQ(PrimaColonnaNonValida({Colonna{}}), 0u);

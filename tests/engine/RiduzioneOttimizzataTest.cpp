@@ -316,9 +316,12 @@ TEST(RiduzioneOttimizzata, TheOrbitSearchKeepsWholeOrbitsAndCovers) {
     std::vector<uint32_t> tutte(924);
     for (uint32_t i = 0; i < tutte.size(); ++i) tutte[i] = i;
     const auto a3 = std::make_shared<const riduzione::Vicinato>(ColonneIntegrali(DaA(1, 12), 6), 6, 3);
-    const riduzione::RicercaAlternata alternata(a3, tutte, 1);
+    riduzione::RicercaAlternata alternata(a3, tutte, 1);
     EXPECT_EQ(alternata.Migliore().size(), 2u);
     EXPECT_EQ(alternata.Ricerche(), 6u);
+    // A step tells a new best only when it is smaller: searches that reach
+    // two columns of their own later do not count.
+    for (int passo = 0; passo < 600; ++passo) EXPECT_FALSE(alternata.Passo()) << passo;
     // The numbers in use may straddle 64, where a mask's second word starts:
     // 60..71 in class 6 at 3 points, its halves one orbit of the rotation by 6.
     riduzione::RicercaPesi aCavallo(std::make_shared<const riduzione::Vicinato>(ColonneIntegrali(DaA(60, 71), 6), 6, 3), 2, 1);
