@@ -62,7 +62,7 @@ namespace {
 std::string_view DopoPrimaRiga(std::string_view testo) {
     const size_t pos = testo.find(kACapo);
     if (pos != std::string_view::npos) return testo.substr(pos + kACapo.size());
-    return testo.size() > 1 ? testo.substr(1) : std::string_view{};
+    return testo.empty() ? testo : testo.substr(1);
 }
 
 int16_t Direzione(const std::string& testo, const char* diretta) {
