@@ -133,23 +133,22 @@ TEST(Sviluppo, StopInsideAPieceOfSeveralSteps) {
     }
 }
 
-// A failure while the worker threads judge (here the host's progress
-// callback) reaches the caller as the same exception: no thread is left
-// running, nothing hangs, the process is not ended.
+// A failure while the worker threads judge (here the columns' destination,
+// as a full disk) reaches the caller as the same exception: no thread is
+// left running, nothing hangs, the process is not ended.
 TEST(Sviluppo, AFailureDuringTheRunReachesTheCaller) {
-    struct Guasto : OsservatoreSviluppo {
-        void Progresso(uint64_t testate, uint64_t) override {
-            if (testate >= 20000) throw Errore(7, "memoria esaurita");
-        }
+    struct Guasto : DestinazioneColonne {
+        void Accoda(std::span<const Colonna>) override { throw Errore(61, "Spazio su disco esaurito"); }
     };
     const ParametriSviluppo p = Sistema(22, 6, {{"", "Consecutivi", "", "0-1", "", ""}});  // 74613 columns
     for (int thread : {1, 2, 4}) {
+        OsservatoreSviluppo muto;
         Guasto guasto;
         try {
-            SviluppaSistema(p, guasto, {.thread = thread, .quota = {}});
+            SviluppaSistema(p, muto, &guasto, {.thread = thread, .quota = {}});
             ADD_FAILURE() << "no error with " << thread << " threads";
         } catch (const Errore& e) {
-            EXPECT_EQ(e.numero(), 7) << thread;
+            EXPECT_EQ(e.numero(), 61) << thread;
         }
     }
 }
