@@ -11,6 +11,7 @@
 
 #include "Errore.h"
 #include "Garanzia.h"
+#include "OsservatoriDiProva.h"
 #include "Riduzione.h"
 
 namespace combi {
@@ -19,17 +20,6 @@ namespace {
 using test::Col;
 
 using test::BuchiAForzaBruta;
-
-class StopAllaPompa : public OsservatoreRiduzione {
-public:
-    explicit StopAllaPompa(int k) : k_(k) {}
-    void ElaboraMessaggi() override { ++pompe; }
-    bool RichiestaStop() override { return k_ > 0 && pompe >= k_; }
-    int pompe = 0;
-
-private:
-    int k_;
-};
 
 TEST(ColonneIntegrali, EveryCombinationInLexicographicOrder) {
     struct Caso { std::vector<int> numeri; int classe; size_t quante; Colonna prima; Colonna ultima; };
@@ -118,7 +108,7 @@ TEST(CercaBuchi, ColumnsOfOtherClassesStopAndRefusals) {
     const std::vector<Colonna> tutte = ColonneIntegrali(dodici, 6);  // 924 columns
     std::vector<Colonna> molte;
     for (int r = 0; r < 6; ++r) molte.insert(molte.end(), tutte.begin(), tutte.end());
-    StopAllaPompa stop(1);
+    test::Registro stop(1);  // a stop from the first message pump
     EXPECT_EQ(CercaBuchi({Col({1, 2, 3, 4, 5, 6})}, molte, 6, stop).size(), 4091u);
     EXPECT_EQ(stop.pompe, 1);
     EXPECT_THROW(CercaBuchi(tenute, daCoprire, 0, muto), Errore);
@@ -239,11 +229,14 @@ TEST(TabellaGaranzia, StopAndRefusals) {
     std::vector<int> trenta;
     for (int n = 1; n <= 30; ++n) trenta.push_back(n);
     const std::vector<Colonna> tenute = {Col({1, 2, 3, 4, 5, 6}), Col({7, 8, 9, 10, 11, 12})};
-    StopAllaPompa stop(1);
+    test::Registro stop(1);  // a stop from the first message pump
     const TabellaGaranzia t = CalcolaTabellaGaranzia(tenute, trenta, 6, stop);
-    // A pump after every row (and every 65,536 subsets): the first row stands.
+    // A pump after every row (and every 65,536 subsets): the first row
+    // stands; the phase and the bar are cleared at the end.
     EXPECT_TRUE(t.interrotto);
     EXPECT_EQ(t.righe, (std::vector<RigaGaranzia>{{1, 0}}));
+    EXPECT_EQ(std::vector<std::string>(stop.eventi.end() - 2, stop.eventi.end()),
+              (std::vector<std::string>{"F", "P0"}));
     OsservatoreRiduzione muto;
     EXPECT_THROW(CalcolaTabellaGaranzia(tenute, trenta, 0, muto), Errore);
     EXPECT_THROW(CalcolaTabellaGaranzia(tenute, {1, 1}, 2, muto), Errore);
