@@ -11,11 +11,11 @@ RicercaPesi::RicercaPesi(std::shared_ptr<const Vicinato> vicinato, int ordine, u
       caso_(seme) {
     valida_ = CostruisciOrbite(ordine, massimeVicine);
     if (!valida_) return;
-    coperture_.assign(unita_, 0);
-    xorTenute_.assign(unita_, 0);
+    coperture_.assign(unita_, {});
+    xorTenute_.assign(unita_, {});
     peso_.assign(unita_, 1);
-    punteggio_.assign(unita_, 0);
-    ultimoCambio_.assign(unita_, 0);
+    punteggio_.assign(unita_, {});
+    ultimoCambio_.assign(unita_, {});
     puoEntrare_.assign(unita_, true);
     tenute_ = InsiemeIndicizzato(unita_);
     scoperte_ = InsiemeIndicizzato(unita_);

@@ -140,18 +140,18 @@ Valutatore::Lavagna Valutatore::NuovaLavagna() const {
     l.righe.resize(n == 0 ? 0
                           : basiRighe_.back() + condizioni_.back().ChiaviRiga() * CondizioneCompilata::kLarghezzaRiga);
     l.primaChiave.assign(n, UINT32_MAX);
-    l.ultimaChiave.assign(n, 0);
+    l.ultimaChiave.assign(n, {});
     l.primaRiga.assign(n, UINT32_MAX);
-    l.ultimaRiga.assign(n, 0);
+    l.ultimaRiga.assign(n, {});
     l.ordine = foglieSole_;
     for (int f : foglieSole_)
         if (!condizioni_[size_t(f)].CostanteNellaRiga()) l.ordineRiga.push_back(f);
-    l.scartiRiga.assign(l.ordineRiga.size(), 0);
+    l.scartiRiga.assign(l.ordineRiga.size(), {});
     l.righeBlocco.resize(n);
     l.superateBlocchi.resize(n * kMassimoBlocchi);
     l.recuperabiliBlocchi.resize(n * kMassimoBlocchi);
     l.gruppiBlocchi.resize(gruppi_.size() * kMassimoBlocchi);
-    l.scarti.assign(foglieSole_.size(), 0);
+    l.scarti.assign(foglieSole_.size(), {});
     return l;
 }
 
@@ -412,7 +412,7 @@ void Valutatore::Riordina(std::vector<int>& ordine, std::vector<uint32_t>& scart
     for (size_t j = 0; j < ordine.size(); ++j) voci.push_back({scarti[j], ordine[j]});
     std::stable_sort(voci.begin(), voci.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
     for (size_t j = 0; j < voci.size(); ++j) ordine[j] = voci[j].second;
-    std::fill(scarti.begin(), scarti.end(), 0);
+    scarti.assign(scarti.size(), {});
 }
 
 void Valutatore::Riversa(Lavagna& l, Contatori& contatori) const {

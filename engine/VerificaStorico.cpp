@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <atomic>
+#include <ranges>
+#include <span>
 #include <thread>
 
 #include "ColonneABit.h"
@@ -43,9 +45,10 @@ EsitoStorico Prepara(const std::vector<Colonna>& colonne, const std::vector<Estr
 // Lexicographic from the top points down to the minimum: more columns at
 // the highest points first.
 bool Meglio(const ContePunti& a, const ContePunti& b, int minimo) {
-    for (int s = kMaxClasse; s >= minimo; --s)
-        if (a[size_t(s)] != b[size_t(s)]) return a[size_t(s)] > b[size_t(s)];
-    return false;
+    const auto dallAlto = [minimo](const ContePunti& c) {
+        return std::span(c).subspan(size_t(minimo)) | std::views::reverse;
+    };
+    return std::ranges::lexicographical_compare(dallAlto(b), dallAlto(a));
 }
 
 // Totals, best draw and longest dry run over the first `contate` draws; the
