@@ -55,6 +55,11 @@ TEST(Conteggi, MasksCountedPerCandidate) {
             ASSERT_EQ(esito.Contiene(candidato), atteso) << n << " masks, candidate " << candidato;
         }
     }
+    // Held by every one of 64 or 65 masks: a count past 63 is never wanted, whatever the bits.
+    for (size_t n : {64u, 65u}) {
+        const std::vector<Maschera128> piene(n, Maschera128{~uint64_t{0}, ~uint64_t{0}});
+        EXPECT_TRUE(ConteggioInInsieme(piene.data(), n, ~uint64_t{0}).Vuota()) << n;
+    }
 }
 
 // The mask is a set of 0..127 for any caller, though a column's numbers

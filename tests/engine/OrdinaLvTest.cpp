@@ -33,15 +33,16 @@ std::vector<std::string> Colonna(const std::vector<RigaLista>& righe, size_t c) 
 }
 
 TEST(OrdinaLv, KeysOfEachKindSortInBothOrders) {
+    // The codes a host passes: kind 1 text, 2 and 3 number; order 0 up, 1 down.
     struct Caso { std::vector<std::string> testi; int tipo; int ordine; std::vector<std::string> attesi; };
     const Caso casi[] = {
-        {{"99", "1.234,5", "abc"}, kOrdinaNumeroBis, kDecrescente, {"1.234,5", "99", "abc"}},
-        {{"99", "1.234,5", "abc"}, kOrdinaNumero, kCrescente, {"abc", "99", "1.234,5"}},
-        {{"-3", "0,00004", "-2,5", "10"}, kOrdinaNumero, kDecrescente, {"10", "0,00004", "-2,5", "-3"}},
-        {{"a", "B", "b"}, kOrdinaTesto, kDecrescente, {"b", "a", "B"}},
-        {{"a", "B", "b"}, kOrdinaTesto, kCrescente, {"B", "a", "b"}},
-        {{"10", "9", "100"}, kOrdinaTesto, kDecrescente, {"9", "100", "10"}},  // text, not value
-        {{"àbc", "zeta"}, kOrdinaTesto, kDecrescente, {"àbc", "zeta"}},        // UTF-8 bytes above ASCII
+        {{"99", "1.234,5", "abc"}, 3, 1, {"1.234,5", "99", "abc"}},
+        {{"99", "1.234,5", "abc"}, 2, 0, {"abc", "99", "1.234,5"}},
+        {{"-3", "0,00004", "-2,5", "10"}, 2, 1, {"10", "0,00004", "-2,5", "-3"}},
+        {{"a", "B", "b"}, 1, 1, {"b", "a", "B"}},
+        {{"a", "B", "b"}, 1, 0, {"B", "a", "b"}},
+        {{"10", "9", "100"}, 1, 1, {"9", "100", "10"}},  // text, not value
+        {{"àbc", "zeta"}, 1, 1, {"àbc", "zeta"}},        // UTF-8 bytes above ASCII
     };
     for (const Caso& c : casi) {
         std::vector<RigaLista> righe;
