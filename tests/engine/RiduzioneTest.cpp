@@ -89,6 +89,14 @@ TEST(Riduzione, EveryClassFastPathMatchesReference) {
         ASSERT_EQ(ClasseColonne(v), c.classe);
         ConfrontaConRiferimento(v, c.t, c.classe, true);
     }
+    // 7 points on the numbers 77..90, where the rank of a 7-number subset
+    // needs 33 bits.
+    for (int classe : {7, 8}) {
+        std::vector<Colonna> alte = ColonneCasuali(uint32_t(classe), 400, 14, classe);
+        for (Colonna& c : alte)
+            for (int p = 1; p <= classe; ++p) c[p] = uint8_t(c[p] + 76);
+        ConfrontaConRiferimento(alte, 7, classe, true);
+    }
 }
 
 // Small sets worked out by hand, in every class the counts have one largest.
