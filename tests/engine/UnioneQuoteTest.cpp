@@ -5,6 +5,7 @@
 // an empty table block is refused by the share's reader or by the table's.
 #include <gtest/gtest.h>
 
+#include "ColonneInMemoria.h"
 #include "Conteggi.h"
 #include "Errore.h"
 #include "OsservatoriDiProva.h"
@@ -79,6 +80,9 @@ TEST(UnioneQuote, ReductionWorkedExampleAndEdgeValues) {
         std::vector<Colonna> attese;
         for (size_t i : c.tenute) attese.push_back(passanti[i]);
         EXPECT_TRUE(colonne == attese) << "K=" << c.riduzione;
+        ColonneInMemoria consegnate;  // the same, handed on to a destination
+        ApplicaRiduzione(passanti, c.classe, c.riduzione, consegnate);
+        EXPECT_TRUE(consegnate.colonne == attese) << "K=" << c.riduzione;
     }
 }
 
