@@ -1,7 +1,6 @@
 // Counts of columns and the masks of numbers. A count of masks that takes a
 // single member takes one bit plane whether one member is asked for as the
-// small case or through the bit width (1 either way). A range of values
-// clamped at 0 is the same whether 0 itself is clamped, and C(n, k) for k
+// small case or through the bit width (1 either way), and C(n, k) for k
 // above n is 0 whether the guard or the table's zeros give it.
 #include <gtest/gtest.h>
 

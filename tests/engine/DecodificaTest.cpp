@@ -1,8 +1,7 @@
-// Decoding the grid texts. Two changes survive mutation testing and may:
-// the text after a one-character label is empty whether one or no character
-// is dropped, and the index of the grid's row 0 (the column's number) is
-// read by no one in the engine. A number exactly at the top of an integer
-// type reads as that top whether or not it is taken for past it.
+// Decoding the grid texts. The index of the grid's row 0 (the column's
+// number) is read by no one in the engine, and a list of counts cannot hold
+// a negative one (the "-" between them splits it), so its guard against one
+// is never met.
 #include <gtest/gtest.h>
 
 #include <clocale>

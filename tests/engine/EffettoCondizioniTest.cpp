@@ -1,4 +1,4 @@
-// The effect of each condition. A row's id before it is filled is never shown.
+// The effect of each condition.
 #include <gtest/gtest.h>
 
 #include "EffettoCondizioni.h"

@@ -1,7 +1,6 @@
-// The guarantee check, the holes and the table. The table search's running
-// maximum starts from whatever it is given: each row sets it before use;
-// its first bound, m + 1 for m drawn numbers, works as well from any value
-// above m, which no column can make.
+// The guarantee check, the holes and the table. The table search's first
+// bound, m + 1 for m drawn numbers, works as well from any value above m,
+// which no column can make.
 #include <gtest/gtest.h>
 
 #include "ColonnaDiProva.h"

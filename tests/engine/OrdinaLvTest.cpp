@@ -3,6 +3,7 @@
 // The quicksort's guard on the pivot position (below 2 or past the end) is
 // never met from a call over positions 1..n, and a one-row segment pushed
 // on the stack finds nothing to exchange: changes there are not visible.
+// Every kind but 1 sorts by number, so the number kind's code may be 3 too.
 #include <gtest/gtest.h>
 
 #include <algorithm>

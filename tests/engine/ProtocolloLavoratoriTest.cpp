@@ -1,6 +1,5 @@
 // The worker's report as both sides see it: the lines as documented, read
-// back to what was written, and anything else refused. The value a number
-// field holds before it is read is never seen: a failed read is refused.
+// back to what was written, and anything else refused.
 
 #include <gtest/gtest.h>
 

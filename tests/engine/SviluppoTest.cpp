@@ -1,12 +1,12 @@
 // The development: the fast path against the plain loop on random systems of
 // every class, and worked examples. Mutation testing leaves a few changes
 // alive that no user can see: when the per-row condition order is re-sorted,
-// how many pieces wait for the writer and how many steps a piece holds, the
-// mark of a link's place or of a group's condition (any negative will do), a
-// compiled condition's class before it is set, the early exits taken when no
-// candidate is left, an empty last step or piece, a share's bounds before they
-// are set (speed only), the level or key count of a measure's table (one more
-// is unused), the unreachable return after a switch over every kind; and the
+// how many pieces wait for the writer, how many steps a piece holds and how
+// many threads a machine telling one core gets, the evaluator's mark for
+// "none" (any negative will do), the early exits taken when no candidate is
+// left, an empty last step or piece, the level or key count of a measure's
+// table (one more is unused: a weight's prefix never reaches the largest
+// sum), the unreachable return after a switch over every kind; and the
 // merge of the threads' counters running one element past its array, which
 // changes no count in a release build: only a checked build (the sanitizer run
 // of scripts/test.sh, which also checks every index) can see it.

@@ -1,8 +1,8 @@
 // Joining the workers' shares. How many columns are handed on at a time and
 // which share's condition table is copied before the counts are written in
 // change nothing a user sees (the counts are summed over every share); nor
-// does what a share's header fields hold before they are read, or whether
-// an empty table block is refused by the share's reader or by the table's.
+// does whether an empty table block is refused by the share's reader or by
+// the table's.
 #include <gtest/gtest.h>
 
 #include "ColonneInMemoria.h"
