@@ -1,22 +1,17 @@
 // The optimising reduction: every set it hands out covers its input and is
 // never larger than the greedy one; the searches' bookkeeping against a
-// recount; their parts against worked examples. Left alive by mutation
-// testing, as they move where a search walks, never what it may hand out: the
-// tries before a fallback, taking an input column found at index 0, a restart
-// refused at two columns, the counters a stage or restart starts from (a
-// stage's best uncovered count reset on a tie too), when the starting
-// temperature is worked out and from how many samples, the count the
-// nearest-column walk starts below (-1 or -2), two restart candidates of equal
-// loss and equal random draw (never met), a higher-or-equal score handing a
-// tie to the later orbit, a change that leaves the cost as it is taken at once
-// or by the temperature, the empty sets a weighted search holds before its
-// orbits are built, how many searches run, the orbit that stands in when none
-// may enter, the tie between two orbits changed at the same step (or read off
-// the next orbit's step), how often the clock is read, the default seed and
-// time, a lone column sent through the search; the hash's mixing of a mask and
-// its table's size (speed only); whether the neighbour lists are stored flat
-// when they fill their limit exactly (memory only); and the recount's own
-// comparison made weaker, which a coherent state passes all the same.
+// recount written here; their parts (temperature, the rule between two
+// orbits) against worked examples. Left alive by mutation testing, as they
+// move where a search walks or how fast, never what it may hand out: the
+// tuning numbers (tries before a fallback, the restart's candidates, steps
+// per stage, a column's first weight, how many searches run), a seed derived
+// another way, a restart refused below two columns, two restart candidates
+// of equal loss and equal random draw (never met), the orbit that stands in
+// when none may enter, one step past the limit, how often the clock is read,
+// a progress counter's first value (set before it is read), the weighted
+// cost counted from another base (only its changes are used); the hash
+// table's size (speed only) and whether neighbour lists are stored flat when
+// they fill their limit exactly (memory only).
 #include <gtest/gtest.h>
 
 #include "ColonnaDiProva.h"
