@@ -1,6 +1,6 @@
 // The guarantee check, the holes and the table. The table search's first
 // bound, m + 1 for m drawn numbers, works as well from any value above m,
-// which no column can make.
+// which no column can make; how often it pumps messages is not seen.
 #include <gtest/gtest.h>
 
 #include "ColonnaDiProva.h"

@@ -7,7 +7,8 @@
 // per stage, a column's first weight, how many searches run), a seed derived
 // another way, a restart refused below two columns, two restart candidates
 // of equal loss and equal random draw (never met), the orbit that stands in
-// when none may enter, one step past the limit, how often the clock is read,
+// when none may enter, a tie between the searches' starting sets, one step
+// past the limit, how often the clock is read,
 // a progress counter's first value (set before it is read), the weighted
 // cost counted from another base (only its changes are used); the hash
 // table's size (speed only) and whether neighbour lists are stored flat when

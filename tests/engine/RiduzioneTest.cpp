@@ -1,8 +1,9 @@
 // The reduction, plain and indexed. A subset walk starting at position 0
 // (always empty) instead of 1, the number table of the bit-sliced columns or
 // the plain reduction's marks or the dense lists' offsets sized one row
-// larger, and the bit width of C(90, m) - 2 instead of - 1 (the two differ
-// only past a power of two), are changes no result can show; nor are the
+// larger, the pairs' shift before it is set, and the bit width of
+// C(90, m) - 2 instead of - 1 (the two differ only past a power of two),
+// are changes no result can show; nor are the
 // thresholds that choose between the dense and the sorted index, or between
 // a comparison sort and counting passes (speed and memory only).
 #include <gtest/gtest.h>

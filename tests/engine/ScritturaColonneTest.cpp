@@ -5,7 +5,8 @@
 // the file or through the buffer, and whether a batch that just fills the
 // buffer empties it first, change only when the bytes reach it, never which.
 // The full disk is brought about with a file size limit (EFBIG); a real
-// ENOSPC, which no test can cause, is read by the same comparison.
+// ENOSPC, which no test can cause, is read by the same comparison, and a
+// write of 0 bytes, which a disk never answers, by either branch.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

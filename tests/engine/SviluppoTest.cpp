@@ -1,8 +1,9 @@
 // The development: the fast path against the plain loop on random systems of
 // every class, and worked examples. Mutation testing leaves a few changes
 // alive that no user can see: when the per-row condition order is re-sorted,
-// how many pieces wait for the writer, how many steps a piece holds and how
-// many threads a machine telling one core gets, the evaluator's mark for
+// how many pieces wait for the writer, how many steps a piece holds, how many
+// helpers start and how many threads a machine telling one core gets, a stop
+// at a piece's last step recounting the whole piece, the evaluator's mark for
 // "none" (any negative will do), the early exits taken when no candidate is
 // left, an empty last step or piece, the level or key count of a measure's
 // table (one more is unused: a weight's prefix never reaches the largest

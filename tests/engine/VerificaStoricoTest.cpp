@@ -4,7 +4,8 @@
 // index) can see it.
 // The parameters' defaults for the minimum and the class are set by every
 // caller, and the draws' order on an equal date and wheel is never asked
-// for: the archive refuses a wheel twice on one date.
+// for: the archive refuses a wheel twice on one date, as it refuses a drawn
+// number 0. How many draws a thread takes at a time changes speed only.
 #include <gtest/gtest.h>
 
 #include "ColonnaDiProva.h"
