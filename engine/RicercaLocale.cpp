@@ -1,7 +1,6 @@
 #include "RicercaLocale.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <tuple>
 
