@@ -2,8 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
-#include <ranges>
-#include <span>
+#include <iterator>
 #include <thread>
 
 #include "ColonneABit.h"
@@ -45,10 +44,10 @@ EsitoStorico Prepara(const std::vector<Colonna>& colonne, const std::vector<Estr
 // Lexicographic from the top points down to the minimum: more columns at
 // the highest points first.
 bool Meglio(const ContePunti& a, const ContePunti& b, int minimo) {
-    const auto dallAlto = [minimo](const ContePunti& c) {
-        return std::span(c).subspan(size_t(minimo)) | std::views::reverse;
+    const auto finoAlMinimo = [minimo](const ContePunti& c) {  // the reverse end: just past position minimo
+        return std::make_reverse_iterator(std::next(c.begin(), minimo));
     };
-    return std::ranges::lexicographical_compare(dallAlto(b), dallAlto(a));
+    return std::lexicographical_compare(b.rbegin(), finoAlMinimo(b), a.rbegin(), finoAlMinimo(a));
 }
 
 // Totals, best draw and longest dry run over the first `contate` draws; the
